@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+namespace lumitra {
+
+// The one settings file: "<generic data location>/LumitraConfig/config.ini".
+// All values are strings. Safe to call from the GUI thread only.
+
+// Folder that holds config.ini, code.txt and the other per-user files; created
+// when missing. A folder that cannot be created is logged, never fatal.
+QString config_dir();
+
+// Full path of config.ini (creates the folder as config_dir does).
+QString config_path();
+
+// The key rule: a key containing "/" names its own group; any other key lives in
+// the group "CANSHU".
+QString settings_key(const QString &key);
+
+// Value stored under `key`, or an empty string when absent or unreadable.
+QString get_setting(const QString &key);
+
+// Stores `value` under `key`; written to disk before returning.
+void set_setting(const QString &key, const QString &value);
+
+// True when config.ini already exists.
+bool settings_file_exists();
+
+} // namespace lumitra
