@@ -1,0 +1,93 @@
+#include "application.h"
+
+#include "command_line.h"
+#include "language.h"
+#include "qidongye.h"
+#include "unix_signals.h"
+#include "widget.h"
+#include "work_area.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QIcon>
+#include <QTextStream>
+#include <QTranslator>
+
+namespace lumitra {
+
+namespace {
+
+bool platformHasScreen()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+}
+
+int printAndExit(const CommandLine &cl)
+{
+    QTextStream(cl.exitCode == 0 ? stdout : stderr) << cl.message << '\n';
+    return cl.exitCode;
+}
+
+int runWindow(QApplication &app, const CommandLine &)
+{
+    const QString languageFile = load_language();
+    const QIcon icon(QStringLiteral(":/newIcon/logo2.png"));
+    app.setWindowIcon(icon);
+    qDebug() << "language " << languageFile;
+    QTranslator translator;
+    if (translator.load(languageFile))
+        app.installTranslator(&translator);
+    load_work_area();
+
+    QiDongYe *splash = nullptr;
+    if (platformHasScreen()) {
+        splash = new QiDongYe;
+        splash->setAttribute(Qt::WA_DeleteOnClose);
+        splash->show();
+        app.processEvents();
+    }
+
+    Widget window;
+    window.setWindowIcon(icon);
+    window.show();
+    if (splash)
+        splash->finish(&window);
+    return app.exec();
+}
+
+} // namespace
+
+int run_application(int argc, char **argv)
+{
+    QApplication::setApplicationName(QStringLiteral("Lumitra"));
+    QApplication::setApplicationVersion(QStringLiteral("1.2.0"));
+
+    // The command line is read with a plain core application, before any GUI
+    // exists, so that --help, --version, usage errors and the headless modes
+    // never need a display.
+    CommandLine cl;
+    {
+        QCoreApplication core(argc, argv);
+        cl = parse_command_line(QCoreApplication::arguments());
+    }
+    if (cl.mode == CommandLine::Exit)
+        return printAndExit(cl);
+    if (cl.mode != CommandLine::Window && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    QApplication app(argc, argv);
+    install_quit_on_terminate_signals();
+    switch (cl.mode) {
+    case CommandLine::Export:
+    case CommandLine::Run:
+        QTextStream(stderr) << "this headless mode is not available in this build\n";
+        return 2;
+    case CommandLine::Exit:
+    case CommandLine::Window:
+        break;
+    }
+    return runWindow(app, cl);
+}
+
+} // namespace lumitra

@@ -1,0 +1,121 @@
+#include "command_line.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace lumitra {
+
+QStringList process_option_names()
+{
+    return {QStringLiteral("power"),   QStringLiteral("speed"),   QStringLiteral("passes"),
+            QStringLiteral("mode"),    QStringLiteral("spacing"), QStringLiteral("angle"),
+            QStringLiteral("overscan")};
+}
+
+CommandLine parse_command_line(const QStringList &arguments)
+{
+    CommandLine result;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Lumitra: design and run jobs on GRBL laser engravers.\n"
+                       "Without options the window opens. Headless modes:\n"
+                       "  --export INPUT -o OUTPUT   write the G-code job of a design file\n"
+                       "  --port PORT --run FILE     stream a G-code file to a controller"));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption exportOpt(QStringLiteral("export"),
+                                       QStringLiteral("Design file to turn into a G-code job "
+                                                      "(.lumitra, .svg, .dxf, .png, .jpg, .bmp)."),
+                                       QStringLiteral("INPUT"));
+    const QCommandLineOption outputOpt({QStringLiteral("o"), QStringLiteral("output")},
+                                       QStringLiteral("G-code file to write."),
+                                       QStringLiteral("OUTPUT"));
+    const QCommandLineOption portOpt(QStringLiteral("port"),
+                                     QStringLiteral("Serial port of the controller."),
+                                     QStringLiteral("PORT"));
+    const QCommandLineOption runOpt(QStringLiteral("run"),
+                                    QStringLiteral("G-code file to stream to the controller."),
+                                    QStringLiteral("FILE"));
+    const QCommandLineOption homeOpt(QStringLiteral("home"),
+                                     QStringLiteral("Home the machine before the job."));
+    parser.addOption(exportOpt);
+    parser.addOption(outputOpt);
+    const QMap<QString, QString> optionHelp = {
+        {QStringLiteral("power"), QStringLiteral("Laser power in percent (0-100).")},
+        {QStringLiteral("speed"), QStringLiteral("Speed in mm/min.")},
+        {QStringLiteral("passes"), QStringLiteral("Number of passes.")},
+        {QStringLiteral("mode"),
+         QStringLiteral("line, fill or crossfill for vectors; threshold, dither, outline, grey "
+                        "or negative for bitmaps.")},
+        {QStringLiteral("spacing"), QStringLiteral("Fill and raster line spacing in mm.")},
+        {QStringLiteral("angle"), QStringLiteral("Fill angle in degrees.")},
+        {QStringLiteral("overscan"), QStringLiteral("Overscan in mm.")}};
+    for (const QString &name : process_option_names())
+        parser.addOption(QCommandLineOption(name, optionHelp.value(name), QStringLiteral("VALUE")));
+    parser.addOption(portOpt);
+    parser.addOption(runOpt);
+    parser.addOption(homeOpt);
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QStringLiteral("Design files to open in the window."),
+                                 QStringLiteral("[files...]"));
+
+    if (!parser.parse(arguments)) {
+        result.mode = CommandLine::Exit;
+        result.exitCode = 2;
+        result.message = parser.errorText();
+        return result;
+    }
+    if (parser.isSet(help)) {
+        result.mode = CommandLine::Exit;
+        result.message = parser.helpText();
+        return result;
+    }
+    if (parser.isSet(version)) {
+        result.mode = CommandLine::Exit;
+        result.message = QCoreApplication::applicationName() + QLatin1Char(' ')
+                         + QCoreApplication::applicationVersion();
+        return result;
+    }
+
+    const bool exporting = parser.isSet(exportOpt);
+    const bool running = parser.isSet(portOpt) || parser.isSet(runOpt);
+    auto usage = [&result](const QString &text) {
+        result.mode = CommandLine::Exit;
+        result.exitCode = 2;
+        result.message = text;
+        return result;
+    };
+    if (exporting && running)
+        return usage(QStringLiteral("--export and --run cannot be used together"));
+    if (exporting) {
+        if (!parser.isSet(outputOpt))
+            return usage(QStringLiteral("--export needs -o OUTPUT"));
+        result.mode = CommandLine::Export;
+        result.input = parser.value(exportOpt);
+        result.output = parser.value(outputOpt);
+        for (const QString &name : process_option_names())
+            if (parser.isSet(name))
+                result.processOptions.insert(name, parser.value(name));
+        return result;
+    }
+    if (running) {
+        if (!parser.isSet(portOpt) || !parser.isSet(runOpt))
+            return usage(QStringLiteral("--run needs both --port PORT and --run FILE"));
+        result.mode = CommandLine::Run;
+        result.port = parser.value(portOpt);
+        result.runFile = parser.value(runOpt);
+        result.home = parser.isSet(homeOpt);
+        return result;
+    }
+    for (const QString &name : process_option_names())
+        if (parser.isSet(name))
+            return usage(QStringLiteral("--%1 is only used with --export").arg(name));
+    if (parser.isSet(outputOpt))
+        return usage(QStringLiteral("-o is only used with --export"));
+    if (parser.isSet(homeOpt))
+        return usage(QStringLiteral("--home is only used with --run"));
+    result.filesToOpen = parser.positionalArguments();
+    return result;
+}
+
+} // namespace lumitra

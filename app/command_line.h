@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+namespace lumitra {
+
+// What the command line asks the one executable to do.
+struct CommandLine
+{
+    enum Mode { Window, Export, Run, Exit };
+    Mode mode = Window;
+    int exitCode = 0;   // for Exit: --help, --version or a usage error
+    QString message;    // printed for Exit (stdout when exitCode is 0, else stderr)
+
+    // --export INPUT -o OUTPUT [--power P --speed S --passes N --mode M
+    //  --spacing MM --angle DEG --overscan MM]
+    QString input;
+    QString output;
+    QMap<QString, QString> processOptions; // option name -> value text, as given
+
+    // --port PORT --run FILE [--home]
+    QString port;
+    QString runFile;
+    bool home = false;
+
+    // Window mode: design files named on the command line are opened.
+    QStringList filesToOpen;
+};
+
+// Parses the arguments (argv[0] first). Never exits the process.
+CommandLine parse_command_line(const QStringList &arguments);
+
+// Names of the process options accepted with --export.
+QStringList process_option_names();
+
+} // namespace lumitra

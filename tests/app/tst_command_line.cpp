@@ -1,0 +1,74 @@
+#include "command_line.h"
+
+#include <QtTest>
+
+using namespace lumitra;
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void parse_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("exitCode");
+        QTest::newRow("no options") << QStringList{} << int(CommandLine::Window) << 0;
+        QTest::newRow("files to open") << QStringList{"a.lumitra"} << int(CommandLine::Window) << 0;
+        QTest::newRow("help") << QStringList{"--help"} << int(CommandLine::Exit) << 0;
+        QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::Exit) << 0;
+        QTest::newRow("unknown") << QStringList{"--nope"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("export") << QStringList{"--export", "a.svg", "-o", "a.nc"}
+                                << int(CommandLine::Export) << 0;
+        QTest::newRow("export without output") << QStringList{"--export", "a.svg"}
+                                               << int(CommandLine::Exit) << 2;
+        QTest::newRow("run") << QStringList{"--port", "/dev/ttyUSB0", "--run", "a.nc"}
+                             << int(CommandLine::Run) << 0;
+        QTest::newRow("run without port") << QStringList{"--run", "a.nc"}
+                                          << int(CommandLine::Exit) << 2;
+        QTest::newRow("both modes")
+            << QStringList{"--export", "a.svg", "-o", "b.nc", "--port", "p", "--run", "c"}
+            << int(CommandLine::Exit) << 2;
+        QTest::newRow("process option without export") << QStringList{"--power", "50"}
+                                                       << int(CommandLine::Exit) << 2;
+        QTest::newRow("home without run") << QStringList{"--home"} << int(CommandLine::Exit) << 2;
+    }
+    void parse()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(int, mode);
+        QFETCH(int, exitCode);
+        const CommandLine cl = parse_command_line(QStringList{"lumitra"} + args);
+        QCOMPARE(int(cl.mode), mode);
+        QCOMPARE(cl.exitCode, exitCode);
+        if (exitCode != 0)
+            QVERIFY(!cl.message.isEmpty());
+    }
+
+    void exportKeepsProcessOptions()
+    {
+        const CommandLine cl = parse_command_line(
+            {"lumitra", "--export", "in.png", "-o", "out.nc", "--power", "55", "--mode", "dither",
+             "--spacing", "0.2", "--angle", "45", "--overscan", "2", "--speed", "3000",
+             "--passes", "2"});
+        QCOMPARE(cl.input, QStringLiteral("in.png"));
+        QCOMPARE(cl.output, QStringLiteral("out.nc"));
+        QCOMPARE(cl.processOptions.size(), 7);
+        QCOMPARE(cl.processOptions.value("power"), QStringLiteral("55"));
+        QCOMPARE(cl.processOptions.value("mode"), QStringLiteral("dither"));
+        QCOMPARE(cl.processOptions.value("spacing"), QStringLiteral("0.2"));
+    }
+
+    void runReadsPortFileAndHome()
+    {
+        const CommandLine cl =
+            parse_command_line({"lumitra", "--port", "/dev/pts/3", "--run", "job.nc", "--home"});
+        QCOMPARE(cl.port, QStringLiteral("/dev/pts/3"));
+        QCOMPARE(cl.runFile, QStringLiteral("job.nc"));
+        QVERIFY(cl.home);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_command_line.moc"
