@@ -27,7 +27,9 @@ QImage ditherImage(const QImage &image);
 QImage outlineImage(const QImage &image);
 // Mode 3: Grayscale8 result; fully transparent pixels become white first.
 QImage greyscaleImage(const QImage &image);
-// Mode 4: colours inverted and alpha forced opaque; the format of the ARGB32 conversion.
+// Mode 4: colours inverted and alpha forced opaque. RGB32, ARGB32 (plain or premultiplied),
+// RGBA8888 variants and Grayscale8 keep their format; any other format is converted to
+// ARGB32 first.
 QImage negativeImage(const QImage &image);
 
 // Dispatch by mode index (see above).
