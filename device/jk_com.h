@@ -1,0 +1,141 @@
+#pragma once
+
+#include "device_info.h"
+#include "line_assembler.h"
+
+#include <QMap>
+#include <QPointer>
+#include <QString>
+#include <QThread>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+
+class QSerialPort;
+class ReadTxtThread;
+class StreamState;
+
+// The serial link to a GRBL controller. The object lives on the GUI thread,
+// which owns the port, the read handler, the timers and every public call; its
+// own thread (run) is the character-counting send loop, which hands each line
+// back to the GUI thread through the queued signal xie_xin_hao.
+//
+// Life: connectPort() opens the port and writes "$i\n"; the first "VER:" line
+// completes the handshake (yi_lian_jie(true), send loop and 500 ms "?" poll
+// start); no "VER:" within handshakeTimeout() closes the port and emits
+// yi_lian_jie(false). A failing port (unplugged) is closed and reported by
+// linkLost. disconnectPort() is the user's disconnect.
+class Jk_com : public QThread
+{
+    Q_OBJECT
+
+public:
+    explicit Jk_com(QObject *parent = nullptr);
+    ~Jk_com() override;
+
+    // Opens `portName` at 115200 8N1 without flow control (read buffer 1024
+    // bytes) and starts the handshake. False when the port did not open: that is
+    // only logged, and no yi_lian_jie follows.
+    bool connectPort(const QString &portName);
+    // Stops the poll, the send loop and a running job, empties the queues and
+    // closes the port. Emits nothing.
+    void disconnectPort();
+
+    // The one entry for serial G-code. "yunxing" runs the job file
+    // (lumitra::programState().jobFilePath); any other text is split on "\n",
+    // each piece whitespace-simplified, and the pieces that are neither empty nor
+    // ";" comments are queued.
+    void queueText(const QString &text);
+    // Empties the information map and queues "$I\n$$\n"; the second "ok" after
+    // it emits shu_chu_can_shu with the collected map.
+    void requestSettings();
+
+    // Real-time bytes, written at once when the port is open.
+    void requestStatus(); // "?"
+    void feedHold();      // "!"
+    void cycleStart();    // "~"
+    // Stop: byte 0x18 when the port is open, then (written or not) the job
+    // reader stops and the queue, the pending lines and the in-flight list empty.
+    void softReset();
+
+    bool isOpen() const;
+    bool isLinked() const { return m_handshakeDone; }
+    // A file run is streaming (from "yunxing" until jobFinished or a stop).
+    bool jobRunning() const { return m_fileRunActive; }
+    const QMap<QString, QString> &deviceInfo() const { return m_info.map(); }
+    StreamState &stream() const { return *m_stream; }
+    QString portName() const;
+    // Why the last connectPort() failed, or why the link was lost.
+    QString lastError() const { return m_lastError; }
+
+    // Waits for the handshake (default 5000 ms) and between two "?" (default
+    // 500 ms); set before connectPort.
+    void setHandshakeTimeout(int ms) { m_handshakeTimeoutMs = ms; }
+    int handshakeTimeout() const { return m_handshakeTimeoutMs; }
+    void setPollInterval(int ms);
+    int pollInterval() const;
+
+signals:
+    void yi_lian_jie(bool linked);
+    void shu_chu_zhuang_tai(const QString &status);
+    void shu_chu_can_shu(const QMap<QString, QString> &can_shu);
+    void diao_ke_jin_du(int percent);
+    void xie_xin_hao(const QString &line);
+
+    // Every received line, before it is classified (console, headless sender).
+    void lineReceived(const QString &line);
+    // An alarm or "Error" line reset the stream (after shu_chu_zhuang_tai("Alarm")).
+    void deviceFault(const QString &line);
+    // The port failed while open (unplugged) and was closed; the job stopped.
+    void linkLost(const QString &reason);
+    // Every line of the file run was sent and acknowledged.
+    void jobFinished();
+
+public slots:
+    // Read handler: assembles lines and classifies them in order.
+    void jie_shou();
+    // Write handler: `text` as UTF-8 when the port is open.
+    void xie_cao(const QString &text);
+
+protected:
+    void run() override;
+
+private:
+    void handleLine(const QString &line);
+    void handleOk();
+    void handleOther(const QString &line);
+    void completeHandshake();
+    void sendIdentify();
+    void faultReset(const QString &line, bool writeReset);
+    void writeRealTime(char byte);
+    bool writeResetByte();
+    void startFileRun();
+    void stopReader();
+    void onReaderFinished();
+    void checkJobFinished();
+    void onHandshakeTimeout();
+    void onPortError(int error);
+    void shutDown();
+    void forgetStaleLines();
+
+    QSerialPort *m_port = nullptr;
+    QString m_lastError;
+    LineAssembler m_assembler;
+    QStringList m_receivedLines; // assembled, not yet classified (keeps order on re-entry)
+    bool m_dispatching = false;
+    std::shared_ptr<StreamState> m_stream;
+    bool m_handshakeDone = false;
+    DeviceInfo m_info;
+    QTimer m_pollTimer;
+    QTimer m_handshakeTimer;
+    int m_handshakeTimeoutMs = 5000;
+    std::atomic_bool m_running{false};
+    QPointer<ReadTxtThread> m_reader;
+    bool m_fileRunActive = false;
+    bool m_readerDone = false;
+    // Lines the send loop emitted and the GUI thread wrote; lines emitted before
+    // a stop are not written after it.
+    std::atomic<quint64> m_linesEmitted{0};
+    quint64 m_linesDelivered = 0;
+    quint64 m_staleUntil = 0;
+};

@@ -1,0 +1,482 @@
+#include "grbl_fake.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <deque>
+#include <fcntl.h>
+#include <functional>
+#include <poll.h>
+#include <pty.h>
+#include <sys/eventfd.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr double kNever = 1e18;
+
+bool isRealTime(char c)
+{
+    return c == '?' || c == '!' || c == '~' || c == 0x18;
+}
+
+} // namespace
+
+struct GrblFake::Impl
+{
+    struct WireByte
+    {
+        char byte;
+        double arrival;
+    };
+
+    Options opt;
+    int master = -1;
+    int slave = -1;
+    int wake = -1;
+    std::thread thread;
+    std::atomic_bool stopping{false};
+    Clock::time_point epoch = Clock::now();
+
+    // Fake thread only.
+    std::deque<WireByte> wire;
+    double lastArrival = 0.0;
+    std::string rx;
+    double headReadyAt = -1.0;
+    std::string out;
+    bool firstByteSeen = false;
+    double bootUntil = -1.0;
+    double busyUntil = 0.0;
+    bool held = false;
+    std::atomic_bool alarm{false};
+    double x = 0.0, y = 0.0;
+    int feed = 0;
+
+    // Shared, under the mutex.
+    mutable std::mutex mutex;
+    std::deque<std::function<void()>> commands;
+    QStringList lines;
+    int lineCount = 0;
+    QByteArray realTime;
+    int resets = 0;
+    bool overrun = false;
+    int peak = 0;
+    qint64 received = 0;
+    QMap<int, QByteArray> replies;
+    QMap<int, int> alarms;
+
+    double now() const { return std::chrono::duration<double>(Clock::now() - epoch).count(); }
+
+    void post(std::function<void()> command)
+    {
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            commands.push_back(std::move(command));
+        }
+        const uint64_t one = 1;
+        if (wake >= 0)
+            (void)::write(wake, &one, sizeof one);
+    }
+
+    void say(const QByteArray &text) { out.append(text.constData(), size_t(text.size())); }
+
+    QString stateName(double t) const
+    {
+        if (alarm)
+            return QStringLiteral("Alarm");
+        if (held)
+            return QStringLiteral("Hold");
+        return t < busyUntil ? QStringLiteral("Run") : QStringLiteral("Idle");
+    }
+
+    void reportStatus(double t)
+    {
+        say(QStringLiteral("<%1|MPos:%2,%3,0.000|FS:%4,0>\r\n")
+                .arg(stateName(t))
+                .arg(x, 0, 'f', 3)
+                .arg(y, 0, 'f', 3)
+                .arg(t < busyUntil ? feed : 0)
+                .toLatin1());
+    }
+
+    void reset(double t)
+    {
+        rx.clear();
+        headReadyAt = -1.0;
+        held = false;
+        busyUntil = t;
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            ++resets;
+        }
+        say("\r\n" + banner() + "\r\n");
+        if (alarm)
+            say("[MSG:'$H'|'$X' to unlock]\r\n");
+    }
+
+    void onRealTime(char c, double t)
+    {
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            realTime.append(c);
+        }
+        switch (c) {
+        case '?':
+            reportStatus(t);
+            break;
+        case '!':
+            held = true;
+            break;
+        case '~':
+            held = false;
+            break;
+        default:
+            reset(t);
+        }
+    }
+
+    void arrive(const WireByte &b)
+    {
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            ++received;
+        }
+        if (opt.resetOnFirstByte && !firstByteSeen) {
+            firstByteSeen = true;
+            bootUntil = b.arrival + opt.bootMs / 1000.0;
+        }
+        if (bootUntil >= 0.0)
+            return; // lost while the board boots
+        if (isRealTime(b.byte)) {
+            onRealTime(b.byte, b.arrival);
+            return;
+        }
+        if (int(rx.size()) >= opt.receiveBuffer - 1) {
+            std::lock_guard<std::mutex> lock(mutex);
+            overrun = true;
+            return;
+        }
+        rx.push_back(b.byte);
+        std::lock_guard<std::mutex> lock(mutex);
+        peak = std::max(peak, int(rx.size()));
+    }
+
+    void moveTo(const QString &line, double t)
+    {
+        static const QRegularExpression word(QStringLiteral("([XYF])(-?\\d*\\.?\\d+)"));
+        const bool relative = line.contains(QLatin1String("G91"));
+        bool moved = false;
+        auto it = word.globalMatch(line);
+        while (it.hasNext()) {
+            const auto m = it.next();
+            const double v = m.captured(2).toDouble();
+            const QChar axis = m.captured(1).at(0);
+            if (axis == QLatin1Char('F')) {
+                feed = int(v);
+                continue;
+            }
+            double &pos = axis == QLatin1Char('X') ? x : y;
+            pos = relative ? pos + v : v;
+            moved = true;
+        }
+        if (moved)
+            busyUntil = std::max(busyUntil, t) + opt.motionMsPerLine / 1000.0;
+    }
+
+    void execute(const QString &line, double t)
+    {
+        const QString cmd = line.trimmed();
+        if (cmd == QLatin1String("$i") || cmd == QLatin1String("$I")) {
+            if (!opt.answerIdentify)
+                return;
+            say("[VER:1.1h.20190825:]\r\n[OPT:V,15,128]\r\n");
+            if (!opt.model.isEmpty())
+                say("[MSG:Using machine:" + opt.model.toLatin1() + "]\r\n");
+        } else if (cmd == QLatin1String("$$")) {
+            for (auto it = opt.settings.cbegin(); it != opt.settings.cend(); ++it)
+                say(QStringLiteral("$%1=%2\r\n").arg(it.key()).arg(it.value()).toLatin1());
+        } else if (cmd == QLatin1String("$X")) {
+            if (alarm)
+                say("[MSG:Caution: Unlocked]\r\n");
+            alarm = false;
+        } else if (cmd == QLatin1String("$H")) {
+            alarm = false;
+            x = y = 0.0;
+        } else if (alarm && !cmd.startsWith(QLatin1Char('$'))) {
+            say("error:9\r\n");
+            return;
+        } else if (cmd.startsWith(QLatin1String("AT"))) {
+            say("error:20\r\n");
+            return;
+        } else {
+            moveTo(cmd, t);
+        }
+        say("ok\r\n");
+    }
+
+    void processLine(double t)
+    {
+        const size_t end = rx.find('\n');
+        QByteArray raw(rx.data(), int(end));
+        rx.erase(0, end + 1);
+        headReadyAt = -1.0;
+        while (raw.endsWith('\r'))
+            raw.chop(1);
+        const QString line = QString::fromLatin1(raw);
+        int number = 0;
+        QByteArray reply;
+        int alarmCode = 0;
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            number = ++lineCount;
+            if (opt.recordLines)
+                lines.append(line);
+            reply = replies.take(number);
+            alarmCode = alarms.take(number);
+        }
+        if (alarmCode) {
+            raiseNow(alarmCode);
+        } else if (!reply.isEmpty()) {
+            say(reply + "\r\n");
+        } else {
+            execute(line, t);
+        }
+    }
+
+    void raiseNow(int code)
+    {
+        alarm = true;
+        held = false;
+        busyUntil = 0.0;
+        say("ALARM:" + QByteArray::number(code) + "\r\n");
+    }
+
+    // Handles everything due by `t`; returns when the next event is due.
+    double advance(double t)
+    {
+        while (!wire.empty() && wire.front().arrival <= t) {
+            arrive(wire.front());
+            wire.pop_front();
+        }
+        if (bootUntil >= 0.0 && t >= bootUntil) {
+            bootUntil = -1.0;
+            say(banner() + "\r\n");
+        }
+        while (rx.find('\n') != std::string::npos) {
+            if (headReadyAt < 0.0)
+                headReadyAt = t + opt.processingDelayMs / 1000.0;
+            if (headReadyAt > t)
+                break;
+            processLine(t);
+        }
+        double next = kNever;
+        if (!wire.empty())
+            next = wire.front().arrival;
+        if (bootUntil >= 0.0)
+            next = std::min(next, bootUntil);
+        if (headReadyAt >= 0.0)
+            next = std::min(next, headReadyAt);
+        return next;
+    }
+
+    void readWire(double t)
+    {
+        char buf[4096];
+        for (;;) {
+            const ssize_t n = ::read(master, buf, sizeof buf);
+            if (n <= 0)
+                return;
+            for (ssize_t i = 0; i < n; ++i) {
+                double at = t;
+                if (opt.bytesPerSecond > 0.0)
+                    at = std::max(t, lastArrival) + 1.0 / opt.bytesPerSecond;
+                lastArrival = at;
+                wire.push_back({buf[i], at});
+            }
+        }
+    }
+
+    void flushOut()
+    {
+        while (!out.empty() && master >= 0) {
+            const ssize_t n = ::write(master, out.data(), out.size());
+            if (n <= 0)
+                return;
+            out.erase(0, size_t(n));
+        }
+    }
+
+    void runCommands()
+    {
+        uint64_t count = 0;
+        (void)::read(wake, &count, sizeof count);
+        std::deque<std::function<void()>> todo;
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            todo.swap(commands);
+        }
+        for (auto &c : todo)
+            c();
+    }
+
+    void loop()
+    {
+        while (!stopping.load() && master >= 0) {
+            const double next = advance(now());
+            flushOut();
+            pollfd fds[2] = {{wake, POLLIN, 0},
+                             {master, short(POLLIN | (out.empty() ? 0 : POLLOUT)), 0}};
+            timespec ts{};
+            timespec *timeout = nullptr;
+            if (next < kNever) {
+                const double wait = std::max(0.0, next - now());
+                ts.tv_sec = time_t(wait);
+                ts.tv_nsec = long((wait - double(ts.tv_sec)) * 1e9);
+                timeout = &ts;
+            }
+            if (::ppoll(fds, 2, timeout, nullptr) < 0 && errno != EINTR)
+                return;
+            if (fds[0].revents & POLLIN)
+                runCommands();
+            if (master >= 0 && (fds[1].revents & POLLIN))
+                readWire(now());
+        }
+    }
+};
+
+QMap<int, QString> GrblFake::defaultSettings()
+{
+    return {{0, QStringLiteral("10")},         {1, QStringLiteral("25")},
+            {10, QStringLiteral("1")},         {22, QStringLiteral("1")},
+            {30, QStringLiteral("1000")},      {31, QStringLiteral("0")},
+            {32, QStringLiteral("1")},         {100, QStringLiteral("80.000")},
+            {101, QStringLiteral("80.000")},   {110, QStringLiteral("6000.000")},
+            {111, QStringLiteral("6000.000")}, {120, QStringLiteral("500.000")},
+            {130, QStringLiteral("400.000")},  {131, QStringLiteral("400.000")},
+            {132, QStringLiteral("50.000")}};
+}
+
+QByteArray GrblFake::banner()
+{
+    return QByteArrayLiteral("Grbl 1.1h ['$' for help]");
+}
+
+GrblFake::GrblFake() : GrblFake(Options()) {}
+
+GrblFake::GrblFake(const Options &options) : d(new Impl)
+{
+    d->opt = options;
+}
+
+GrblFake::~GrblFake()
+{
+    d->stopping = true;
+    d->post([] {});
+    if (d->thread.joinable())
+        d->thread.join();
+    for (int fd : {d->master, d->slave, d->wake}) {
+        if (fd >= 0)
+            ::close(fd);
+    }
+}
+
+bool GrblFake::start()
+{
+    termios raw{};
+    ::cfmakeraw(&raw);
+    char name[256] = {};
+    if (::openpty(&d->master, &d->slave, name, &raw, nullptr) != 0)
+        return false;
+    // The fake keeps the near end open too, so the far end never reads a
+    // hang-up while the link under test has its port closed.
+    ::fcntl(d->master, F_SETFL, ::fcntl(d->master, F_GETFL) | O_NONBLOCK);
+    d->wake = ::eventfd(0, EFD_NONBLOCK);
+    m_portName = QString::fromLocal8Bit(name);
+    d->thread = std::thread([this] { d->loop(); });
+    return true;
+}
+
+void GrblFake::raiseAlarm(int code)
+{
+    Impl *p = d.get();
+    p->post([p, code] { p->raiseNow(code); });
+}
+
+void GrblFake::sendRaw(const QByteArray &bytes)
+{
+    Impl *p = d.get();
+    p->post([p, bytes] { p->say(bytes); });
+}
+
+void GrblFake::replyInsteadOfOk(int lineNumber, const QByteArray &reply)
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    d->replies.insert(lineNumber, reply);
+}
+
+void GrblFake::alarmAtLine(int lineNumber, int code)
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    d->alarms.insert(lineNumber, code);
+}
+
+void GrblFake::closeFarEnd()
+{
+    Impl *p = d.get();
+    p->post([p] {
+        ::close(p->master);
+        p->master = -1;
+    });
+}
+
+QStringList GrblFake::lines() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->lines;
+}
+
+int GrblFake::lineCount() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->lineCount;
+}
+
+QByteArray GrblFake::realTimeBytes() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->realTime;
+}
+
+int GrblFake::resetCount() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->resets;
+}
+
+bool GrblFake::overrun() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->overrun;
+}
+
+int GrblFake::peakWaiting() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->peak;
+}
+
+qint64 GrblFake::bytesReceived() const
+{
+    std::lock_guard<std::mutex> lock(d->mutex);
+    return d->received;
+}
+
+bool GrblFake::inAlarm() const
+{
+    return d->alarm.load();
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+// A GRBL controller on the far end of a pseudo-terminal pair, for tests and
+// benches. The link under test opens portName() like any serial port; the fake
+// answers on its own thread:
+//   - every received line with "ok" (or what a rule says), "$i"/"$I" with the
+//     build info, "$$" with the settings dump, "$X" unlocks, "$H" homes;
+//   - the real-time bytes "?" (status report), "!", "~" and 0x18 (reset, then
+//     the start-up banner);
+//   - alarm and error lines on demand.
+// Its receive buffer holds 128 bytes of which, as in the firmware's ring
+// buffer, 127 are usable: a byte that arrives when 127 are waiting is an
+// overrun, recorded and dropped. Bytes can be paced as on a real wire
+// (bytesPerSecond) and each line can take processingDelayMs before its reply.
+class GrblFake
+{
+public:
+    struct Options
+    {
+        int receiveBuffer = 128;
+        double bytesPerSecond = 0.0; // 0: as fast as the pty carries them
+        int processingDelayMs = 0;   // per line, before its reply
+        int motionMsPerLine = 0;     // the state reads Run this long per motion line
+        // The board restarts when the first byte arrives (as boards that reset
+        // when the port opens): bytes arriving within bootMs are lost, then the
+        // banner is printed.
+        bool resetOnFirstByte = false;
+        int bootMs = 0;
+        bool answerIdentify = true; // false: "$i" gets no answer at all
+        QString model;              // reported in the "$I" answer when set
+        QMap<int, QString> settings = defaultSettings();
+        bool recordLines = true; // keep every received line for lines()
+    };
+
+    static QMap<int, QString> defaultSettings();
+    static QByteArray banner(); // "Grbl 1.1h ['$' for help]"
+
+    GrblFake();
+    explicit GrblFake(const Options &options);
+    ~GrblFake();
+    GrblFake(const GrblFake &) = delete;
+    GrblFake &operator=(const GrblFake &) = delete;
+
+    // Opens the pty pair and starts answering. False when no pty is available.
+    bool start();
+    // The device path of the near end, e.g. "/dev/pts/3".
+    QString portName() const { return m_portName; }
+
+    // On demand, from any thread.
+    void raiseAlarm(int code);             // "ALARM:<code>", state Alarm until "$X" or "$H"
+    void sendRaw(const QByteArray &bytes); // written to the link as they are
+    void replyInsteadOfOk(int lineNumber, const QByteArray &reply); // 1-based, lines counted
+    void alarmAtLine(int lineNumber, int code); // the line gets no "ok"; alarm raised instead
+    void closeFarEnd();                         // unplug: the near end sees a hang-up
+
+    // Observations, from any thread.
+    QStringList lines() const;        // lines received, "\r" and "\n" cut, real-time bytes excluded
+    int lineCount() const;            // lines received (also when not recorded)
+    QByteArray realTimeBytes() const; // "?", "!", "~", 0x18 in arrival order
+    int resetCount() const;
+    bool overrun() const;
+    int peakWaiting() const;      // most bytes ever waiting in the receive buffer
+    qint64 bytesReceived() const; // every byte that arrived, real-time ones included
+    bool inAlarm() const;         // raised and not yet unlocked
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+    QString m_portName;
+};
