@@ -1,0 +1,104 @@
+// Collects the geometry of a DXF file as dxflib reports it, block by block, and expands
+// the model space into one painter path (drawing units, y up).
+#pragma once
+
+#include "nurbs_curve.h"
+
+#include <QHash>
+#include <QPainterPath>
+#include <QString>
+#include <QVector>
+#include <dxflib/dl_creationadapter.h>
+
+namespace lumitra {
+
+struct DxfInsert
+{
+    QString block; // upper-case name
+    QPointF at;
+    double scaleX = 1, scaleY = 1, angleDegrees = 0;
+    int columns = 1, rows = 1;
+    double columnSpacing = 0, rowSpacing = 0;
+    bool mirrored = false; // extrusion pointing down: the block lies mirrored in x
+};
+
+struct DxfSpline
+{
+    NurbsCurve curve;
+    QVector<QPointF> fitPoints;
+    bool closed = false;
+};
+
+struct DxfBlock
+{
+    QPointF base;
+    QPainterPath path; // lines, polylines and arcs (arcs as cubic segments)
+    QVector<DxfSpline> splines;
+    QVector<DxfInsert> inserts;
+};
+
+class DxfCollector : public DL_CreationAdapter
+{
+public:
+    DxfCollector();
+
+    // Drawing units per $INSUNITS in millimetres (1 when absent or unitless).
+    double millimetresPerUnit() const { return m_mmPerUnit; }
+    int unitsCode() const { return m_unitsCode; }
+
+    // The model space with every insert expanded (scale, rotation, arrays, nesting up to
+    // a fixed depth), splines flattened to within `toleranceMm`. False when the result
+    // would exceed the element budget; *error then says why.
+    bool buildModelSpace(double toleranceMm, QPainterPath *out, QString *error);
+
+    void addPoint(const DL_PointData &) override;
+    void addLine(const DL_LineData &data) override;
+    void addArc(const DL_ArcData &data) override;
+    void addCircle(const DL_CircleData &data) override;
+    void addEllipse(const DL_EllipseData &data) override;
+    void addPolyline(const DL_PolylineData &data) override;
+    void addVertex(const DL_VertexData &data) override;
+    void addSpline(const DL_SplineData &data) override;
+    void addControlPoint(const DL_ControlPointData &data) override;
+    void addKnot(const DL_KnotData &data) override;
+    void addFitPoint(const DL_FitPointData &data) override;
+    void addInsert(const DL_InsertData &data) override;
+    void addBlock(const DL_BlockData &data) override;
+    void endBlock() override;
+    void endEntity() override;
+    void endSequence() override;
+    void endSection() override;
+    void setVariableInt(const std::string &key, int value, int code) override;
+
+private:
+    struct PendingPolyline
+    {
+        QVector<QPointF> points;
+        QVector<double> bulges;
+        bool closed = false;
+        bool mirrored = false;
+    };
+
+    QHash<QString, DxfBlock> m_blocks;
+    DxfBlock m_model;
+    DxfBlock *m_target = nullptr; // where entities go now, or nullptr to drop them
+    bool m_inBlock = false;
+    PendingPolyline m_polyline;
+    bool m_hasPolyline = false;
+    DxfBlock *m_polylineTarget = nullptr;
+    DxfSpline m_spline;
+    bool m_hasSpline = false;
+    DxfBlock *m_splineTarget = nullptr;
+    double m_mmPerUnit = 1.0;
+    int m_unitsCode = 0;
+
+    // Finishes a polyline or spline whose vertices were still arriving.
+    void flushPending();
+    // The container of the entity being reported, or nullptr for paper space.
+    DxfBlock *target();
+    bool extrusionDown();
+
+    friend class DxfExpander;
+};
+
+} // namespace lumitra

@@ -1,0 +1,65 @@
+#include "jk_dxf.h"
+
+#include "dxf_collector.h"
+#include "dxf_sanity.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QTransform>
+#include <dxflib/dl_dxf.h>
+#include <cmath>
+#include <new>
+
+namespace {
+constexpr double kMaxCoordinateMm = 1e6; // one kilometre either way
+QString tr(const char *text) { return QCoreApplication::translate("DxfImport", text); }
+} // namespace
+
+Jk_dxf::Jk_dxf(QObject *parent) : QObject(parent) {}
+
+QPainterPath Jk_dxf::dxf_jie_xi(QString path)
+{
+    m_error.clear();
+    m_mmPerUnit = 1.0;
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable()) {
+        m_error = tr("无法打开文件") + QStringLiteral(": ") + path;
+        return QPainterPath();
+    }
+    // Counts that the parser would allocate blindly are checked first.
+    if (!lumitra::dxfLooksSane(path, &m_error))
+        return QPainterPath();
+
+    lumitra::DxfCollector collector;
+    bool read = false;
+    try {
+        DL_Dxf dxf;
+        read = dxf.in(QFile::encodeName(path).toStdString(), &collector);
+    } catch (const std::exception &e) {
+        qDebug() << "dxf: parser failed" << e.what();
+        read = false;
+    } catch (...) {
+        read = false;
+    }
+    if (!read) {
+        m_error = tr("DXF 文件无法读取");
+        return QPainterPath();
+    }
+    QPainterPath units;
+    if (!collector.buildModelSpace(kSplineToleranceMm, &units, &m_error))
+        return QPainterPath();
+    m_mmPerUnit = collector.millimetresPerUnit();
+    QPainterPath mm = m_mmPerUnit == 1.0 ? units : QTransform::fromScale(m_mmPerUnit, m_mmPerUnit).map(units);
+    const QRectF box = mm.controlPointRect();
+    const double extremes[] = {box.left(), box.right(), box.top(), box.bottom()};
+    for (double v : extremes)
+        if (!std::isfinite(v) || std::abs(v) > kMaxCoordinateMm) {
+            m_error = tr("DXF 坐标超出范围");
+            return QPainterPath();
+        }
+    if (mm.elementCount() < 2)
+        m_error = tr("DXF 文件中没有可导入的图形");
+    return mm;
+}
