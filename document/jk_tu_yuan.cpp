@@ -1,5 +1,6 @@
 #include "jk_tu_yuan.h"
 
+#include "jk_chang_jing.h"
 #include "layer_list.h"
 #include "program_state.h"
 
@@ -11,9 +12,9 @@
 #include <QPainterPathStroker>
 
 namespace {
-constexpr double kMinExtent = 0.3;    // mm; keeps straight lines pickable
-constexpr double kPickWidth = 5.0;    // mm; stroker width for hit testing
-constexpr double kHoverSquare = 3.0;  // mm
+constexpr double kMinExtent = 0.3;   // mm; keeps straight lines pickable
+constexpr double kPickWidth = 5.0;   // mm; stroker width for hit testing
+constexpr double kHoverSquare = 3.0; // mm
 
 QPainterPath pathForShape(int shapeNumber)
 {
@@ -176,6 +177,7 @@ void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
         }
         painter->setPen(pen);
         painter->drawImage(path.boundingRect(), display_image, QRectF(display_image.rect()));
+        paintSelectionMark(painter);
         return;
     }
 
@@ -197,6 +199,18 @@ void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
     if (!filled)
         painter->setBrush(Qt::NoBrush);
     painter->drawPath(path);
+    paintSelectionMark(painter);
+}
+
+void Jk_tu_yuan::paintSelectionMark(QPainter *painter) const
+{
+    if (!isSelected())
+        return;
+    QPen dash(QColor(0, 120, 215), 1, Qt::DashLine);
+    dash.setCosmetic(true);
+    painter->setPen(dash);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(boundingRect());
 }
 
 void Jk_tu_yuan::set_path(const QPainterPath &newPath)
@@ -221,6 +235,12 @@ QPainterPath Jk_tu_yuan::scenePath() const
     return sceneTransform().map(path);
 }
 
+bool Jk_tu_yuan::isOnHiddenLayer() const
+{
+    const TuCeng *l = LayerList::instance().find(layer_id, is_bitmap);
+    return l && !l->xianshi;
+}
+
 void Jk_tu_yuan::rotateItems(const QList<Jk_tu_yuan *> &items, double angle, const QPointF &centre)
 {
     QTransform aboutCentre;
@@ -240,8 +260,11 @@ void Jk_tu_yuan::rotateItems(const QList<Jk_tu_yuan *> &items, double angle, con
 
 void Jk_tu_yuan::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         emit textEditRequested(this);
+        if (auto *designScene = qobject_cast<Jk_chang_jing *>(scene()))
+            designScene->requestTextEdit(this);
+    }
     QGraphicsItem::mouseDoubleClickEvent(event);
 }
 

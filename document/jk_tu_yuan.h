@@ -9,6 +9,8 @@
 // The one item class of the design canvas: an outline in millimetres (item
 // coordinates), optionally with a bitmap, and the number of its layer.
 // Owned by the scene once added. GUI thread only.
+// type() is the library's, so qgraphicsitem_cast cannot tell it apart from
+// other items: use dynamic_cast.
 class Jk_tu_yuan : public QObject, public QGraphicsItem
 {
     Q_OBJECT
@@ -27,27 +29,24 @@ public:
     // A ready outline. keepPlace 0: centred and selected; otherwise at (0, 0),
     // not selected.
     Jk_tu_yuan(const QPainterPath &path, int keepPlace);
-    explicit Jk_tu_yuan(const Jk_tu_yuan *other);  // copy; position not copied
+    explicit Jk_tu_yuan(const Jk_tu_yuan *other); // copy; position not copied
 
-    QImage scratch;           // unused working image
-    QPainterPath path;        // outline in item coordinates, mm
+    QImage scratch;    // unused working image
+    QPainterPath path; // outline in item coordinates, mm
     bool is_bitmap = false;
-    QImage source_image;      // bitmap as loaded
-    QImage display_image;     // bitmap after its image mode; drawn and engraved
-    double jiao_du = 0.0;     // accumulated rotation, degrees, never normalised
+    QImage source_image;  // bitmap as loaded
+    QImage display_image; // bitmap after its image mode; drawn and engraved
+    double jiao_du = 0.0; // accumulated rotation, degrees, never normalised
     qint32 layer_id = 0;
     qint32 reserved = 0;
     double reservedValue = 0.0;
-    QString wen_zi;           // text an outline was made from
-    QString zi_ti;            // the text settings that went with it
+    QString wen_zi; // text an outline was made from
+    QString zi_ti;  // the text settings that went with it
     qint32 spareInt = 0;
     bool spareFlag = false;
-    bool filled = false;      // true when last painted with a fill brush
+    bool filled = false; // true when last painted with a fill brush
     qint32 spareInt2 = 0;
     QPainterPath secondPath;
-
-    enum { Type = UserType + 1 };
-    int type() const override { return Type; }
 
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
@@ -71,13 +70,17 @@ public:
     // The outline mapped to scene coordinates through position and transform.
     QPainterPath scenePath() const;
 
+    // True when the item's layer record exists and is switched to hidden.
+    bool isOnHiddenLayer() const;
+
     // Image loading with the per-pixel grey step: every pixel whose alpha is not
     // zero becomes grey (r + g + b) / 3 with its alpha kept; fully transparent
     // pixels keep their colour values.
     static QImage greyFromFile(const QImage &image);
 
 signals:
-    // Double-click on an item: the window opens the text dialog for it.
+    // Double-click on an item: the window opens the text dialog for it. The
+    // design scene relays it as Jk_chang_jing::textEditRequested.
     void textEditRequested(Jk_tu_yuan *item);
 
 protected:
@@ -88,6 +91,8 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
+    // A thin dashed box around a selected item.
+    void paintSelectionMark(QPainter *painter) const;
     void initCommon();
     void initBitmap(const QImage &source, const QImage &display);
 };

@@ -35,6 +35,9 @@ public:
     // Takes ownership and appends.
     void append(TuCeng *layer);
     void clear();
+    // Exchanges the records of two lists (a page parks its layers while
+    // another page is current).
+    void swap(LayerList &other) { m_layers.swap(other.m_layers); }
 
     // Brings the list in step with the items, given in scene order: walks the
     // items from last to first creating a default record for every new

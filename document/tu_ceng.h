@@ -10,21 +10,21 @@ class QDataStream;
 // the stored order (project file) is different, see writeTuCeng/readTuCeng.
 struct TuCeng
 {
-    qint32 yanse = 0;        // layer number 0..29, index into the palette
-    qint32 gonglv = 80;      // laser power, percent 0..100 (S = gonglv * 10)
-    qint32 sudu = 5000;      // feed, mm/min, 5..99999999
-    qint32 fangxiang = 0;    // fill direction, degrees 0..360
-    double jianju = 0.1;     // fill / raster line spacing, mm 0.01..100
-    double saomiao = 0.0;    // overscan, mm 0..100
-    qint32 moshi = 0;        // mode; meaning depends on tupian (see modeLabels)
-    bool shuchu = true;      // output to the machine
-    bool xianshi = true;     // visible on the canvas
-    bool tupian = false;     // bitmap layer
-    bool danxiang = false;   // burn fill/raster lines in one direction only
+    qint32 yanse = 0;      // layer number 0..29, index into the palette
+    qint32 gonglv = 80;    // laser power, percent 0..100 (S = gonglv * 10)
+    qint32 sudu = 5000;    // feed, mm/min, 5..99999999
+    qint32 fangxiang = 0;  // fill direction, degrees 0..360
+    double jianju = 0.1;   // fill / raster line spacing, mm 0.01..100
+    double saomiao = 0.0;  // overscan, mm 0..100
+    qint32 moshi = 0;      // mode; meaning depends on tupian (see modeLabels)
+    bool shuchu = true;    // output to the machine
+    bool xianshi = true;   // visible on the canvas
+    bool tupian = false;   // bitmap layer
+    bool danxiang = false; // burn fill/raster lines in one direction only
     QString mingcheng = QStringLiteral("L0");
-    bool shanchu = false;    // removal mark, used only while rebuilding the list
-    qint32 cishu = 1;        // passes 1..999
-    bool xuanzhong = false;  // row tick; never stored, never copied
+    bool shanchu = false;   // removal mark, used only while rebuilding the list
+    qint32 cishu = 1;       // passes 1..999
+    bool xuanzhong = false; // row tick; never stored, never copied
 
     TuCeng() = default;
     // A fresh record with the defaults for layer `number`.
@@ -36,8 +36,13 @@ struct TuCeng
 // Vector modes.
 enum VectorMode { LineMode = 0, FillMode = 1, CrossFillMode = 2 };
 // Bitmap modes (also the image modes of the importer).
-enum BitmapMode { ThresholdMode = 0, DitherMode = 1, OutlineMode = 2, GreyscaleMode = 3,
-                  NegativeMode = 4 };
+enum BitmapMode {
+    ThresholdMode = 0,
+    DitherMode = 1,
+    OutlineMode = 2,
+    GreyscaleMode = 3,
+    NegativeMode = 4
+};
 
 // The 30-colour layer palette.
 constexpr int kLayerCount = 30;

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "project_file.h"
+
+#include <QObject>
+#include <functional>
+
+class DesignPages;
+class QWidget;
+
+// The window's project commands: save, open (with their file dialogs and
+// refusals) and the open dispatch for one path, which files dropped on the
+// canvas also go through. Messages go through the message-box helper.
+class ProjectCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class OpenOutcome {
+        Opened,      // everything in the file is on the canvas
+        Damaged,     // a project cut short or corrupt: what was whole is on the canvas
+        Refused,     // a job is engraving
+        Unsupported, // no importer for the extension
+        Failed       // the file gave nothing (unreadable, or the importer refused)
+    };
+    enum class SaveOutcome { Saved, RefusedEngraving, RefusedNoData, Cancelled, Failed };
+
+    // Asks for a path: (parent, caption, start folder, filter) -> path or "".
+    using PathAsker =
+            std::function<QString(QWidget *, const QString &, const QString &, const QString &)>;
+
+    // `dialogParent` parents the dialogs and message boxes.
+    ProjectCommands(DesignPages *pages, QWidget *dialogParent, QObject *parent = nullptr);
+
+    // Replace the file dialogs (tests); an empty function restores the real one.
+    void setSavePathAsker(PathAsker asker);
+    void setOpenPathAsker(PathAsker asker);
+
+    // Texts shown for the save refusals.
+    static QString refusalMessage(SaveRefusal refusal);
+
+    // Writes the project to `path` (no questions) and clears the unsaved flag.
+    ProjectSaveResult saveProjectTo(const QString &path);
+
+public slots:
+    // The "save" command: refusals, the save dialog, writing.
+    SaveOutcome save_project();
+    // The "open" command: refusal while engraving, the open dialog, open_file.
+    OpenOutcome open_project();
+    // Opens one file by its extension onto the current page.
+    OpenOutcome open_file(const QString &path);
+    // Opens each file in turn (drag and drop).
+    void open_files(const QStringList &paths);
+
+private:
+    bool refuseWhileEngraving();
+    OpenOutcome openProjectFile(const QString &path);
+
+    DesignPages *m_pages;
+    QWidget *m_dialogParent;
+    PathAsker m_askSavePath;
+    PathAsker m_askOpenPath;
+};
