@@ -40,7 +40,7 @@ bool isSkippedContainer(const QString &tag)
 
 // Nesting depth and well-formedness, checked with the streaming reader before the document
 // model is built (whose teardown recurses once per level).
-bool precheck(const QByteArray &data, QString *error)
+bool precheck(const QByteArray &data, QString *error, bool *limitExceeded)
 {
     QXmlStreamReader xml(data);
     int depth = 0;
@@ -49,6 +49,7 @@ bool precheck(const QByteArray &data, QString *error)
         if (token == QXmlStreamReader::StartElement) {
             if (++depth > kMaxDepth) {
                 *error = tr("SVG 文件嵌套层数过多");
+                *limitExceeded = true;
                 return false;
             }
         } else if (token == QXmlStreamReader::EndElement) {
@@ -194,7 +195,7 @@ SvgImportResult readSvgData(const QByteArray &data)
         result.error = tr("SVG 文件为空");
         return result;
     }
-    if (!precheck(data, &result.error))
+    if (!precheck(data, &result.error, &result.limitExceeded))
         return result;
     QDomDocument doc;
     QString message;
@@ -208,6 +209,7 @@ SvgImportResult readSvgData(const QByteArray &data)
     if (collector.full()) {
         result.paths.clear();
         result.error = tr("SVG 文件图形数量过多");
+        result.limitExceeded = true;
         return result;
     }
     result.ok = true;
@@ -225,6 +227,7 @@ SvgImportResult readSvgFile(const QString &filePath)
     if (file.size() > kMaxFileBytes) {
         SvgImportResult result;
         result.error = tr("SVG 文件过大");
+        result.limitExceeded = true;
         return result;
     }
     return readSvgData(file.readAll());

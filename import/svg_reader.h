@@ -20,6 +20,7 @@ namespace lumitra {
 struct SvgImportResult
 {
     bool ok = false;            // the file was read and parsed (it may still hold no shapes)
+    bool limitExceeded = false; // refused for size, nesting or shape count rather than damage
     QString error;              // why not, for the log or the user
     QList<QPainterPath> paths;  // millimetres, y pointing down as in the file
 };

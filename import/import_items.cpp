@@ -1,0 +1,118 @@
+#include "import_items.h"
+
+#include "bitmap_trace.h"
+#include "jk_dxf.h"
+#include "jk_tu_yuan.h"
+#include "program_state.h"
+#include "svg_reader.h"
+
+#include <QDebug>
+
+namespace lumitra {
+
+namespace {
+
+// Top-left scene position that centres a w x h box on the work area (the centring rule,
+// in single precision like the items' own).
+QPointF centredTopLeft(const QRectF &box)
+{
+    const ProgramState &s = programState();
+    const float x = float(s.width / 2) - float(box.width()) * 0.5f;
+    const float y = float(s.height / 2) - float(box.height()) * 0.5f - float(s.height);
+    return QPointF(double(x), double(y));
+}
+
+QRectF unionBox(const QList<QPainterPath> &paths)
+{
+    QRectF box;
+    for (const QPainterPath &p : paths)
+        box = box.isNull() ? p.boundingRect() : box.united(p.boundingRect());
+    return box;
+}
+
+} // namespace
+
+QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths)
+{
+    QList<Jk_tu_yuan *> items;
+    if (paths.isEmpty())
+        return items;
+    const QRectF box = unionBox(paths);
+    const QPointF shift = -box.topLeft();
+    const QPointF place = centredTopLeft(box);
+    for (const QPainterPath &p : paths) {
+        auto *item = new Jk_tu_yuan(p.translated(shift), 1);
+        item->setPos(place);
+        item->setSelected(true);
+        items.append(item);
+    }
+    return items;
+}
+
+QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
+{
+    const SvgImportResult result = readSvgFile(path);
+    if (!result.ok) {
+        qDebug() << "svg: import failed" << path << result.error;
+        if (result.limitExceeded && message)
+            *message = result.error;
+        return {};
+    }
+    return makeCentredVectorItems(result.paths);
+}
+
+Jk_tu_yuan *makeDxfItem(const QPainterPath &path)
+{
+    auto *item = new Jk_tu_yuan(path, 1);
+    const QTransform mirror = QTransform::fromScale(1, -1);
+    item->setTransform(mirror);
+    const QRectF mirrored = mirror.mapRect(path.boundingRect());
+    const ProgramState &s = programState();
+    const QRectF workArea(0, -s.height, s.width, s.height);
+    if (!workArea.contains(mirrored))
+        item->setPos(centredTopLeft(mirrored) - mirrored.topLeft());
+    item->setSelected(true);
+    return item;
+}
+
+QList<Jk_tu_yuan *> importDxfItems(const QString &path, QString *message)
+{
+    Jk_dxf *reader = new Jk_dxf(nullptr);
+    const QPainterPath outline = reader->dxf_jie_xi(path);
+    const QString error = reader->lastError();
+    delete reader;
+    if (outline.elementCount() < 2) {
+        qDebug() << "dxf: import failed" << path << error;
+        if (message)
+            *message = error;
+        return {};
+    }
+    return {makeDxfItem(outline)};
+}
+
+Jk_tu_yuan *singleSelectedBitmap(const QList<QGraphicsItem *> &selected)
+{
+    if (selected.size() != 1)
+        return nullptr;
+    auto *item = dynamic_cast<Jk_tu_yuan *>(selected.first());
+    return item && item->is_bitmap ? item : nullptr;
+}
+
+Jk_tu_yuan *traceBitmapItem(const Jk_tu_yuan *bitmapItem)
+{
+    if (!bitmapItem || !bitmapItem->is_bitmap)
+        return nullptr;
+    const QImage image =
+        bitmapItem->display_image.isNull() ? bitmapItem->source_image : bitmapItem->display_image;
+    if (image.isNull())
+        return nullptr;
+    // Item coordinates first: the bitmap fills the item's outline rectangle.
+    const QRectF rect = bitmapItem->path.boundingRect();
+    const double scale = rect.width() / image.width();
+    const auto traced = traceBitmap(image, scale, rect.topLeft());
+    if (!traced || traced->isEmpty())
+        return nullptr;
+    return new Jk_tu_yuan(bitmapItem->sceneTransform().map(*traced), 1);
+}
+
+} // namespace lumitra

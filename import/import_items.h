@@ -1,0 +1,42 @@
+// Turning import results into design items. Items are returned not yet in a scene; the
+// caller adds them through the undoable add (which then owns them). Every item takes the
+// current layer. GUI thread only.
+#pragma once
+
+#include <QList>
+#include <QPainterPath>
+#include <QString>
+
+class QGraphicsItem;
+class Jk_tu_yuan;
+
+namespace lumitra {
+
+// One vector item per path (millimetres); the drawing as a whole is centred on the work
+// area by the centring rule, each item keeping its place within the drawing. The items
+// are selected.
+QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths);
+
+// Importer for ".svg" files (signature of the open dispatch). A file that cannot be read
+// or parsed gives no items and no message; a file beyond the reader's limits (nesting,
+// shape count, size) gives a message.
+QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message);
+
+// One vector item for a DXF outline (millimetres, y up) mirrored by the item transform
+// scale(1, -1), so that drawing y becomes negative scene y. It keeps the drawing's own
+// coordinates (origin at the scene origin) when the mirrored outline lies on the work
+// area; otherwise it is centred on the work area. The item is selected.
+Jk_tu_yuan *makeDxfItem(const QPainterPath &path);
+
+// Importer for ".dxf" files (signature of the open dispatch); failures give a message.
+QList<Jk_tu_yuan *> importDxfItems(const QString &path, QString *message);
+
+// The one selected item when it is a bitmap item, otherwise nullptr.
+Jk_tu_yuan *singleSelectedBitmap(const QList<QGraphicsItem *> &selected);
+
+// Traces a bitmap item's displayed image into one vector item lying exactly over the
+// bitmap (through the bitmap item's position and transform), not selected. Returns
+// nullptr when tracing fails or finds nothing.
+Jk_tu_yuan *traceBitmapItem(const Jk_tu_yuan *bitmapItem);
+
+} // namespace lumitra
