@@ -1,0 +1,151 @@
+#include "jk_gcode.h"
+
+#include "bitmap_raster.h"
+#include "fill_hatch.h"
+#include "jk_tu_yuan.h"
+#include "job_output.h"
+#include "layer_list.h"
+#include "path_emitter.h"
+#include "program_state.h"
+#include "settings_store.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QSaveFile>
+
+using namespace lumitra;
+
+namespace {
+
+const QByteArray kHeader("M4\nM8\n");
+const QByteArray kTrailer("M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n");
+// GRBL reads at most this many characters of a line.
+constexpr int kMaxLineLength = 80;
+
+// ";" and the layer's name. GRBL takes bytes above 127 and the characters
+// "?", "!" and "~" as real-time commands even inside a comment, so those are
+// written as "_"; the line is kept within GRBL's line length.
+QByteArray layerComment(const QString &name)
+{
+    QByteArray line(";");
+    for (const QChar c : name) {
+        if (line.size() >= kMaxLineLength)
+            break;
+        const ushort u = c.unicode();
+        const bool safe = u >= 0x20 && u < 0x7f && u != '?' && u != '!' && u != '~';
+        line.append(safe ? char(u) : '_');
+    }
+    line.append('\n');
+    return line;
+}
+
+HatchSettings hatchSettingsOf(const TuCeng &layer)
+{
+    HatchSettings s;
+    s.angle = layer.fangxiang;
+    s.spacing = layer.jianju;
+    s.overscan = layer.saomiao;
+    s.oneDirection = layer.danxiang;
+    return s;
+}
+
+} // namespace
+
+Jk_gcode::Jk_gcode(QObject *parent)
+    : QObject(parent)
+{
+}
+
+QString Jk_gcode::defaultJobPath()
+{
+    return config_dir() + QStringLiteral("/code.txt");
+}
+
+void Jk_gcode::setLayerList(const LayerList *layers)
+{
+    m_layers = layers;
+}
+
+void Jk_gcode::setRotarySettings(const RotarySettings &settings)
+{
+    m_rotary = settings;
+}
+
+bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString &path)
+{
+    QElapsedTimer timer;
+    timer.start();
+    m_lastError.clear();
+    m_lastJobSize = 0;
+    const RotarySettings rotary = m_rotary ? *m_rotary : loadRotarySettings();
+    if (!rotary.isUsable()) {
+        m_lastError = tr("滚轴参数无效");
+        qDebug() << "gcode: unusable rotary settings";
+        return false;
+    }
+    QSaveFile file(path.isEmpty() ? defaultJobPath() : path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        m_lastError = file.errorString();
+        qDebug() << "gcode: cannot open" << file.fileName() << m_lastError;
+        return false;
+    }
+
+    ProgramState &state = programState();
+    JobOutput output(file, rotary);
+    PathEmitter emitter(output, rotary, &state.cancel);
+    output.writeText(kHeader);
+    output.writeText(state.preamble.toLocal8Bit());
+    state.preamble.clear();
+    output.writeText(rotaryStartBump(rotary, state.modelFlag));
+
+    const LayerList &layers = m_layers ? *m_layers : LayerList::instance();
+    for (const TuCeng *layer : layers.layers()) {
+        if (layer->shuchu)
+            emitLayer(*layer, tysz, output, emitter);
+    }
+    output.writeText(kTrailer);
+
+    if (output.failed() || !file.commit()) {
+        m_lastError = file.errorString();
+        file.cancelWriting();
+        qDebug() << "gcode: writing failed" << file.fileName() << m_lastError;
+        return false;
+    }
+    m_lastJobSize = output.bytesWritten();
+    qDebug() << " 转换花费的时间" << timer.elapsed();
+    emit zhuan_huan_wan_cheng();
+    return true;
+}
+
+void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, JobOutput &output,
+                         PathEmitter &emitter)
+{
+    QList<const Jk_tu_yuan *> own;
+    for (const Jk_tu_yuan *item : items) {
+        if (item && item->is_bitmap == layer.tupian && item->layer_id == layer.yanse)
+            own.append(item);
+    }
+    output.writeText(layerComment(layer.mingcheng));
+    emitter.setLayer(layer);
+    const std::atomic_bool &cancel = programState().cancel;
+    for (int pass = 0; pass < layer.cishu; ++pass) {
+        for (const Jk_tu_yuan *item : qAsConst(own)) {
+            if (cancel)
+                return;
+            if (item->is_bitmap) {
+                emitter.beginPath();
+                engraveBitmapItem(*item, layer, emitter);
+                emitter.endPath();
+                continue;
+            }
+            const QPainterPath outline = item->sceneTransform().map(item->path);
+            if (layer.moshi == FillMode || layer.moshi == CrossFillMode) {
+                emitter.beginPath();
+                hatchOutline(outline, hatchSettingsOf(layer), emitter);
+                emitter.endPath();
+            }
+            if (layer.moshi == LineMode || layer.moshi == CrossFillMode)
+                emitter.emitPath(outline);
+        }
+    }
+}

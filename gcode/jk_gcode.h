@@ -1,0 +1,73 @@
+// The G-code job generator.
+//
+// kai_shi_zhuan_huan writes one complete job for a list of design items:
+//   "M4\nM8\n", the pending preamble (then cleared), the rotary start bump,
+//   then for every layer in list order whose output is on: ";" + its name,
+//   and `cishu` times the layer's items (vector items by line, fill or cross
+//   fill; bitmap items by raster engraving), and finally the trailer
+//   "M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n".
+// Numbers are millimetres and mm/min with two decimals, Y negated (machine Y
+// points up the screen), S = power percent x 10. Generation is synchronous on
+// the caller's thread; it polls programState().cancel and, when that is set,
+// stops after the current element and item but still writes the trailer.
+// The file is written through a temporary file and replaced only when the
+// whole job was written, so a failed run leaves the old file as it was.
+#pragma once
+
+#include "rotary.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <optional>
+
+class Jk_tu_yuan;
+class LayerList;
+struct TuCeng;
+
+namespace lumitra {
+class JobOutput;
+class PathEmitter;
+} // namespace lumitra
+
+class Jk_gcode : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Jk_gcode(QObject *parent = nullptr);
+
+    // The job file used for an empty path: "code.txt" in the settings folder.
+    static QString defaultJobPath();
+
+    // The layers to walk; the program-wide list unless set. Not owned.
+    void setLayerList(const LayerList *layers);
+    // Rotary settings for the next jobs; unless set they are read from the
+    // settings store at the start of every job.
+    void setRotarySettings(const lumitra::RotarySettings &settings);
+
+    // Why the last job failed (empty after a success).
+    QString lastError() const { return m_lastError; }
+    // Bytes written by the last job.
+    qint64 lastJobSize() const { return m_lastJobSize; }
+
+public slots:
+    // Writes the job for `tysz` (items in scene order) to `path`, or to
+    // defaultJobPath() when `path` is empty. Returns false, without emitting
+    // zhuan_huan_wan_cheng and without touching the file, when the file cannot
+    // be written or the rotary settings in use are not usable.
+    bool kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString &path);
+
+signals:
+    // The job file is complete and closed.
+    void zhuan_huan_wan_cheng();
+
+private:
+    void emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items,
+                   lumitra::JobOutput &output, lumitra::PathEmitter &emitter);
+
+    const LayerList *m_layers = nullptr;
+    std::optional<lumitra::RotarySettings> m_rotary;
+    QString m_lastError;
+    qint64 m_lastJobSize = 0;
+};

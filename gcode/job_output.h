@@ -1,0 +1,38 @@
+// The writing end of a job: plain text goes to the file as it is, pieces of
+// motion G-code go through the modal compaction and the rotary rewrite first.
+#pragma once
+
+#include "rotary.h"
+
+#include <QByteArray>
+
+class QIODevice;
+
+namespace lumitra {
+
+class JobOutput
+{
+public:
+    // `device` must be open for writing and outlive this object.
+    JobOutput(QIODevice &device, const RotarySettings &rotary);
+
+    // Writes bytes unchanged (header, comments, trailer).
+    void writeText(const QByteArray &bytes);
+    // Compacts `size` bytes of motion G-code, rewrites them for the rotary
+    // axis and writes the result.
+    void writePiece(const char *data, int size);
+
+    // Bytes written so far (after compaction).
+    qint64 bytesWritten() const { return m_written; }
+    // True once any write failed; later writes are skipped.
+    bool failed() const { return m_failed; }
+
+private:
+    QIODevice &m_device;
+    RotarySettings m_rotary;
+    QByteArray m_compacted; // reused between pieces
+    qint64 m_written = 0;
+    bool m_failed = false;
+};
+
+} // namespace lumitra

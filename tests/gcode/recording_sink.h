@@ -1,0 +1,60 @@
+// A toolpath receiver that keeps every step, for checking what builders hand on.
+#pragma once
+
+#include "toolpath_sink.h"
+
+#include <QPointF>
+#include <QVector>
+#include <cmath>
+
+struct ToolStep
+{
+    enum Kind { Travel, Burn, Coast, Grey };
+    Kind kind;
+    QPointF at;
+    int grey = 0;
+};
+
+class RecordingSink : public lumitra::ToolpathSink
+{
+public:
+    void travel(double x, double y) override { steps.append({ToolStep::Travel, {x, y}}); }
+    void burn(double x, double y) override { steps.append({ToolStep::Burn, {x, y}}); }
+    void coast(double x, double y) override { steps.append({ToolStep::Coast, {x, y}}); }
+    void burnGrey(double x, double y, int grey) override
+    {
+        steps.append({ToolStep::Grey, {x, y}, grey});
+    }
+    bool stopRequested() const override { return stopAfter >= 0 && steps.size() >= stopAfter; }
+
+    // Burnt stretches: (from, to) for every burn step, from the step before it.
+    QVector<QPair<QPointF, QPointF>> burns() const
+    {
+        QVector<QPair<QPointF, QPointF>> out;
+        for (int i = 1; i < steps.size(); ++i) {
+            if (steps[i].kind == ToolStep::Burn || steps[i].kind == ToolStep::Grey)
+                out.append({steps[i - 1].at, steps[i].at});
+        }
+        return out;
+    }
+    double burntLength() const
+    {
+        double total = 0;
+        for (const auto &b : burns())
+            total += std::hypot(b.second.x() - b.first.x(), b.second.y() - b.first.y());
+        return total;
+    }
+    double travelLength() const
+    {
+        double total = 0;
+        for (int i = 1; i < steps.size(); ++i) {
+            if (steps[i].kind == ToolStep::Travel)
+                total += std::hypot(steps[i].at.x() - steps[i - 1].at.x(),
+                                    steps[i].at.y() - steps[i - 1].at.y());
+        }
+        return total;
+    }
+
+    QVector<ToolStep> steps;
+    int stopAfter = -1; // ask to stop once this many steps were taken
+};
