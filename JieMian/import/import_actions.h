@@ -1,0 +1,36 @@
+// The window's import actions on the selection: the mode preview and tracing of a bitmap.
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+class QGraphicsItem;
+class QWidget;
+class Jk_tu_yuan;
+class MoShiYuLan;
+
+// Owned by the main window; GUI thread only.
+class ImportActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `window` parents the preview dialogs.
+    explicit ImportActions(QWidget *window);
+
+    // Opens a mode preview of the selected bitmap item's image when exactly one item is
+    // selected and it is a bitmap item; otherwise does nothing and returns nullptr. The
+    // dialog deletes itself when closed.
+    MoShiYuLan *openModePreview(const QList<QGraphicsItem *> &selected);
+
+    // Traces the selected bitmap item (same selection rule) and announces the new vector
+    // item through itemsCreated. False when there was nothing to trace or tracing failed.
+    bool traceSelection(const QList<QGraphicsItem *> &selected);
+
+signals:
+    // New items, not yet in a scene, for the window's undoable add.
+    void itemsCreated(const QList<Jk_tu_yuan *> &items);
+
+private:
+    QWidget *m_window;
+};
