@@ -89,6 +89,13 @@ QPointF Jk_chang_jing::roundToMillimetre(const QPointF &p)
     return QPointF(std::floor(p.x() + 0.5), std::floor(p.y() + 0.5));
 }
 
+void Jk_chang_jing::repaintItems()
+{
+    for (QGraphicsItem *g : items())
+        if (auto *item = dynamic_cast<Jk_tu_yuan *>(g))
+            item->update();
+}
+
 void Jk_chang_jing::notifyDesignChanged()
 {
     emit designChanged();

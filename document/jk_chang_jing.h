@@ -49,6 +49,10 @@ public:
     // A scene point rounded to whole millimetres, halves upwards (drawing tools).
     static QPointF roundToMillimetre(const QPointF &p);
 
+    // Repaints every design item, dropping cached drawings: needed after a
+    // layer record changed (colour, mode, visibility).
+    void repaintItems();
+
     // Tells listeners that items were added, removed or changed their layer or
     // geometry. Every undo command calls it after doing or undoing.
     void notifyDesignChanged();

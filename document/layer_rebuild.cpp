@@ -20,6 +20,6 @@ bool rebuildLayerList(Jk_chang_jing *scene)
     bool changed = false;
     if (!lumitra::programState().running)
         changed = LayerList::instance().rebuild(layerKeysOf(scene->designItems()));
-    scene->update();
+    scene->repaintItems();
     return changed;
 }

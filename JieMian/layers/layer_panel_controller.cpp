@@ -101,5 +101,5 @@ void LayerPanelController::deleteLayerItems(TuCeng *layer)
 void LayerPanelController::repaintCurrent()
 {
     if (Jk_chang_jing *scene = m_pages->currentScene())
-        scene->update();
+        scene->repaintItems();
 }
