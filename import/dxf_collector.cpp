@@ -15,13 +15,16 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr int kMaxInsertDepth = 16;
 constexpr int kMaxElements = 5000000;
-constexpr int kMaxArray = 10000; // rows or columns of one insert
+constexpr int kMaxArray = 10000;       // rows or columns of one insert
+constexpr int kMaxExpansions = 200000; // block copies placed in one drawing
 
-bool finite(double a) { return std::isfinite(a); }
+// Finite and within a range where sums and products of coordinates stay finite.
+constexpr double kMaxMagnitude = 1e12;
+bool finite(double a) { return std::isfinite(a) && std::abs(a) <= kMaxMagnitude; }
 template<typename... T>
 bool finite(double a, T... rest)
 {
-    return std::isfinite(a) && finite(rest...);
+    return finite(a) && finite(rest...);
 }
 
 // Millimetres per drawing unit for the $INSUNITS codes; unitless and unknown codes read as
@@ -121,7 +124,9 @@ public:
             if (it == m_c.m_blocks.constEnd())
                 continue;
             if (depth >= kMaxInsertDepth) {
-                qDebug() << "dxf: insert nesting too deep" << ins.block;
+                if (!m_depthReported)
+                    qDebug() << "dxf: insert nesting too deep" << ins.block;
+                m_depthReported = true;
                 continue;
             }
             for (int col = 0; col < ins.columns; ++col)
@@ -133,7 +138,7 @@ public:
                         * QTransform::fromTranslate(ins.at.x(), ins.at.y());
                     if (ins.mirrored)
                         place = place * kMirrorX;
-                    if (!expand(*it, place * t, depth + 1, out))
+                    if (++m_expansions > kMaxExpansions || !expand(*it, place * t, depth + 1, out))
                         return false;
                 }
         }
@@ -143,6 +148,8 @@ public:
 private:
     const DxfCollector &m_c;
     double m_tolerance;
+    int m_expansions = 0;
+    bool m_depthReported = false;
 };
 
 DxfCollector::DxfCollector() = default;

@@ -1,16 +1,16 @@
 #include "jk_dxf.h"
 
 #include "dxf_collector.h"
-#include "dxf_sanity.h"
+#include "dxf_prepare.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
 #include <QTransform>
 #include <dxflib/dl_dxf.h>
 #include <cmath>
 #include <new>
+#include <sstream>
 
 namespace {
 constexpr double kMaxCoordinateMm = 1e6; // one kilometre either way
@@ -28,15 +28,18 @@ QPainterPath Jk_dxf::dxf_jie_xi(QString path)
         m_error = tr("无法打开文件") + QStringLiteral(": ") + path;
         return QPainterPath();
     }
-    // Counts that the parser would allocate blindly are checked first.
-    if (!lumitra::dxfLooksSane(path, &m_error))
+    // The parser gets the file only after it has been checked and normalised.
+    std::string text;
+    if (!lumitra::readDxfForParser(path, &text, &m_error))
         return QPainterPath();
 
     lumitra::DxfCollector collector;
     bool read = false;
     try {
+        std::istringstream stream(text);
+        text = std::string();
         DL_Dxf dxf;
-        read = dxf.in(QFile::encodeName(path).toStdString(), &collector);
+        read = dxf.in(stream, &collector);
     } catch (const std::exception &e) {
         qDebug() << "dxf: parser failed" << e.what();
         read = false;

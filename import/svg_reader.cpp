@@ -18,6 +18,7 @@ constexpr int kMaxDepth = 200;              // element nesting the reader accept
 constexpr int kMaxShapes = 200000;          // shapes per file
 constexpr qint64 kMaxFileBytes = 256 << 20; // bytes
 constexpr double kMaxCoordinateMm = 1e6;    // one kilometre either way
+constexpr double kMinExtentMm = 1e-9;       // smaller shapes are points
 
 QString tr(const char *text) { return QCoreApplication::translate("SvgImport", text); }
 
@@ -89,7 +90,8 @@ bool isUsable(const QPainterPath &path)
     for (double v : extremes)
         if (!std::isfinite(v) || std::abs(v) > kMaxCoordinateMm)
             return false;
-    return true;
+    // A shape shrunk to a point has nothing to cut.
+    return box.width() > kMinExtentMm || box.height() > kMinExtentMm;
 }
 
 class Collector
