@@ -5,11 +5,11 @@
 //  - ShapeTool (tools 2..7): press, drag, release over the drag rectangle,
 //    pointer rounded to whole mm; Shift draws squares, circles and regular
 //    polygons. A click without a drag draws nothing.
-//  - LineTool (tool 1): a click per corner; a click on the first corner closes
+//  - PolylineTool (tool 1): a click per corner; a click on the first corner closes
 //    the outline; double-click, Enter or a right click ends an open line;
 //    Backspace takes back the last corner, Escape drops the line.
-//  - CurveTool (tool 8): the Bezier pen; click for a corner, press and drag for
-//    a smooth point, click on the first point to close; ends like LineTool.
+//  - BezierPenTool (tool 8): the Bezier pen; click for a corner, press and drag for
+//    a smooth point, click on the first point to close; ends like PolylineTool.
 // While drawing, a dashed preview of the outline is shown. GUI thread only.
 #pragma once
 
@@ -96,7 +96,7 @@ private:
     QPointF m_pointer;
 };
 
-class LineTool : public ClickPathTool
+class PolylineTool : public ClickPathTool
 {
 public:
     int number() const override { return 1; }
@@ -114,7 +114,7 @@ private:
     PolylineBuilder m_line;
 };
 
-class CurveTool : public ClickPathTool
+class BezierPenTool : public ClickPathTool
 {
 public:
     int number() const override { return 8; }
