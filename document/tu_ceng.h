@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QMetaType>
 #include <QString>
 
 class QDataStream;
@@ -61,3 +62,6 @@ QStringList modeLabelsForRow(bool bitmap);
 // "123"). readTuCeng returns false when the stream ran out or is corrupt.
 void writeTuCeng(QDataStream &out, const TuCeng &layer);
 bool readTuCeng(QDataStream &in, TuCeng &layer);
+
+// Rows and panels pass records by pointer in signals.
+Q_DECLARE_METATYPE(TuCeng *)
