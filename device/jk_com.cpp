@@ -23,6 +23,7 @@ constexpr int kResetHoldMs = 1000;
 
 Jk_com::Jk_com(QObject *parent) : QThread(parent), m_stream(std::make_shared<StreamState>())
 {
+    qRegisterMetaType<QMap<QString, QString>>("QMap<QString,QString>");
     m_pollTimer.setInterval(500);
     connect(&m_pollTimer, &QTimer::timeout, this, &Jk_com::requestStatus);
     m_handshakeTimer.setSingleShot(true);
@@ -351,7 +352,7 @@ void Jk_com::startFileRun()
     const quint64 run = m_stream->generation();
     QTimer::singleShot(kFirstChunkDelayMs, this, [this, run] {
         if (m_stream->generation() == run)
-            m_stream->movePendingToQueue();
+            m_stream->refillIfLow();
     });
 }
 

@@ -36,7 +36,7 @@ void ReadTxtThread::run()
     while (!isInterruptionRequested()) {
         if (!m_output->waitForPendingRoom(kRoomWaitMs))
             continue;
-        while (chunk.size() < kChunkLines && !file.atEnd()) {
+        while (chunk.size() < StreamState::kReaderChunk && !file.atEnd()) {
             QByteArray line = file.readLine();
             while (line.endsWith('\n') || line.endsWith('\r'))
                 line.chop(1);

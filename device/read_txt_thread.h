@@ -18,9 +18,6 @@ class ReadTxtThread : public QThread
     Q_OBJECT
 
 public:
-    // Lines read and handed over at a time.
-    static constexpr int kChunkLines = 64;
-
     // Feeds the run that is current in `output` now; a later stop ends it.
     ReadTxtThread(const QString &path, std::shared_ptr<StreamState> output,
                   QObject *parent = nullptr);

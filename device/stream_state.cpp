@@ -36,15 +36,6 @@ quint64 StreamState::generation() const
     return m_generation;
 }
 
-void StreamState::movePendingToQueue()
-{
-    QMutexLocker lock(&m_mutex);
-    m_queue.append(m_pending);
-    m_pending.clear();
-    notePeak();
-    m_changed.wakeAll();
-}
-
 bool StreamState::holdActive() const
 {
     return m_resetHold && !m_resetHoldClock.hasExpired(m_resetHoldMs);

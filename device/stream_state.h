@@ -23,6 +23,11 @@ public:
     static constexpr int kReceiveWindow = 127; // bytes the controller can hold
     static constexpr int kRefillBelow = 300;   // the queue takes the pending lines below this
     static constexpr int kPendingLimit = 300;  // the reader waits while this many are pending
+    static constexpr int kReaderChunk = 64;    // lines the reader hands over at a time
+    // Most lines ever held at once (queue + pending), whatever the file size: a
+    // queue just below the refill mark takes a full pending list, which the
+    // reader then fills again.
+    static constexpr int kMostLinesHeld = kRefillBelow + 2 * (kPendingLimit + kReaderChunk);
 
     // A line the send loop took off the queue, with "\n" appended.
     struct Taken
@@ -43,8 +48,6 @@ public:
     bool appendPending(const QStringList &lines, quint64 generation);
     // The current run: changes with every stop.
     quint64 generation() const;
-    // Start of a file run: the lines read so far join the queue.
-    void movePendingToQueue();
 
     // Send loop: waits up to `waitMs` for a line and takes it. While the queue
     // is empty the pending lines join it. Nothing is handed out while a reset

@@ -283,10 +283,6 @@ QString writeJob(const QTemporaryDir &dir, int lines)
 
 void TestStreamState::readerKeepsMemoryFlat()
 {
-    // A queue just below the refill mark takes a full pending list (the limit
-    // plus one chunk), and the reader fills the pending list again meanwhile.
-    const int kMostLinesHeld =
-        StreamState::kRefillBelow + 2 * (StreamState::kPendingLimit + ReadTxtThread::kChunkLines);
     QTemporaryDir dir;
     const int total = 20000;
     const QString path = writeJob(dir, total);
@@ -303,7 +299,7 @@ void TestStreamState::readerKeepsMemoryFlat()
             stream->releaseOldest();
             stream->refillIfLow();
         }
-        QVERIFY2(stream->peakBuffered() <= kMostLinesHeld,
+        QVERIFY2(stream->peakBuffered() <= StreamState::kMostLinesHeld,
                  qPrintable(QString::number(stream->peakBuffered())));
     }
     QTRY_COMPARE(finished.count(), 1);

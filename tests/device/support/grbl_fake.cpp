@@ -54,6 +54,7 @@ struct GrblFake::Impl
     double busyUntil = 0.0;
     bool held = false;
     std::atomic_bool alarm{false};
+    std::atomic<double> busyUntilShared{0.0};
     double x = 0.0, y = 0.0;
     int feed = 0;
 
@@ -64,9 +65,9 @@ struct GrblFake::Impl
     int lineCount = 0;
     QByteArray realTime;
     int resets = 0;
-    bool overrun = false;
-    int peak = 0;
-    qint64 received = 0;
+    std::atomic_bool overrun{false};
+    std::atomic_int peak{0};
+    std::atomic<qint64> received{0};
     QMap<int, QByteArray> replies;
     QMap<int, int> alarms;
 
@@ -110,6 +111,7 @@ struct GrblFake::Impl
         headReadyAt = -1.0;
         held = false;
         busyUntil = t;
+        busyUntilShared = t;
         {
             std::lock_guard<std::mutex> lock(mutex);
             ++resets;
@@ -142,10 +144,7 @@ struct GrblFake::Impl
 
     void arrive(const WireByte &b)
     {
-        {
-            std::lock_guard<std::mutex> lock(mutex);
-            ++received;
-        }
+        ++received;
         if (opt.resetOnFirstByte && !firstByteSeen) {
             firstByteSeen = true;
             bootUntil = b.arrival + opt.bootMs / 1000.0;
@@ -157,13 +156,12 @@ struct GrblFake::Impl
             return;
         }
         if (int(rx.size()) >= opt.receiveBuffer - 1) {
-            std::lock_guard<std::mutex> lock(mutex);
             overrun = true;
             return;
         }
         rx.push_back(b.byte);
-        std::lock_guard<std::mutex> lock(mutex);
-        peak = std::max(peak, int(rx.size()));
+        if (int(rx.size()) > peak)
+            peak = int(rx.size());
     }
 
     void moveTo(const QString &line, double t)
@@ -184,8 +182,10 @@ struct GrblFake::Impl
             pos = relative ? pos + v : v;
             moved = true;
         }
-        if (moved)
+        if (moved) {
             busyUntil = std::max(busyUntil, t) + opt.motionMsPerLine / 1000.0;
+            busyUntilShared = busyUntil;
+        }
     }
 
     void execute(const QString &line, double t)
@@ -253,27 +253,39 @@ struct GrblFake::Impl
         alarm = true;
         held = false;
         busyUntil = 0.0;
+        busyUntilShared = 0.0;
         say("ALARM:" + QByteArray::number(code) + "\r\n");
     }
 
-    // Handles everything due by `t`; returns when the next event is due.
+    // Processes the complete lines whose processing time has come by `t`.
+    void processDueLines(double t)
+    {
+        while (rx.find('\n') != std::string::npos) {
+            if (headReadyAt < 0.0)
+                headReadyAt = t + opt.processingDelayMs / 1000.0;
+            if (headReadyAt > t)
+                return;
+            processLine(t);
+        }
+    }
+
+    // Handles everything due by `t`, byte by byte in arrival order so that lines
+    // leave the receive buffer while later bytes come in, as on the controller;
+    // returns when the next event is due.
     double advance(double t)
     {
         while (!wire.empty() && wire.front().arrival <= t) {
-            arrive(wire.front());
+            const WireByte b = wire.front();
             wire.pop_front();
+            arrive(b);
+            if (b.byte == '\n' || headReadyAt >= 0.0)
+                processDueLines(b.arrival);
         }
         if (bootUntil >= 0.0 && t >= bootUntil) {
             bootUntil = -1.0;
             say(banner() + "\r\n");
         }
-        while (rx.find('\n') != std::string::npos) {
-            if (headReadyAt < 0.0)
-                headReadyAt = t + opt.processingDelayMs / 1000.0;
-            if (headReadyAt > t)
-                break;
-            processLine(t);
-        }
+        processDueLines(t);
         double next = kNever;
         if (!wire.empty())
             next = wire.front().arrival;
@@ -425,6 +437,12 @@ void GrblFake::alarmAtLine(int lineNumber, int code)
     d->alarms.insert(lineNumber, code);
 }
 
+void GrblFake::setProcessingDelay(int ms)
+{
+    Impl *p = d.get();
+    p->post([p, ms] { p->opt.processingDelayMs = ms; });
+}
+
 void GrblFake::closeFarEnd()
 {
     Impl *p = d.get();
@@ -460,20 +478,22 @@ int GrblFake::resetCount() const
 
 bool GrblFake::overrun() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->overrun;
+    return d->overrun.load();
 }
 
 int GrblFake::peakWaiting() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->peak;
+    return d->peak.load();
 }
 
 qint64 GrblFake::bytesReceived() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->received;
+    return d->received.load();
+}
+
+bool GrblFake::moving() const
+{
+    return d->now() < d->busyUntilShared.load();
 }
 
 bool GrblFake::inAlarm() const

@@ -60,6 +60,7 @@ public:
     void sendRaw(const QByteArray &bytes); // written to the link as they are
     void replyInsteadOfOk(int lineNumber, const QByteArray &reply); // 1-based, lines counted
     void alarmAtLine(int lineNumber, int code); // the line gets no "ok"; alarm raised instead
+    void setProcessingDelay(int ms);            // from now on
     void closeFarEnd();                         // unplug: the near end sees a hang-up
 
     // Observations, from any thread.
@@ -71,6 +72,7 @@ public:
     int peakWaiting() const;      // most bytes ever waiting in the receive buffer
     qint64 bytesReceived() const; // every byte that arrived, real-time ones included
     bool inAlarm() const;         // raised and not yet unlocked
+    bool moving() const;          // the state would read Run now
 
 private:
     struct Impl;
