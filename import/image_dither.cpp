@@ -23,6 +23,27 @@ void loadGreyRow(const QImage &img, int y, std::vector<int> &row)
         row[size_t(x)] = greyLevel(qRed(p[x]), qGreen(p[x]), qBlue(p[x]));
 }
 
+// True for a 32-bit image with alpha whose every pixel is fully opaque.
+bool isOpaque32(const QImage &img)
+{
+    const QImage::Format f = img.format();
+    if (f != QImage::Format_ARGB32 && f != QImage::Format_ARGB32_Premultiplied
+        && f != QImage::Format_RGBA8888 && f != QImage::Format_RGBA8888_Premultiplied)
+        return false;
+    // The alpha byte is the fourth of each pixel in both byte orders on little-endian
+    // machines; read it through the 32-bit value to stay independent of that.
+    const bool rgbaOrder = f == QImage::Format_RGBA8888 || f == QImage::Format_RGBA8888_Premultiplied;
+    for (int y = 0; y < img.height(); ++y) {
+        const uchar *p = img.constScanLine(y);
+        for (int x = 0; x < img.width(); ++x, p += 4) {
+            const int alpha = rgbaOrder ? p[3] : qAlpha(*reinterpret_cast<const QRgb *>(p));
+            if (alpha != 255)
+                return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 QImage ditherImage(const QImage &image)
@@ -32,10 +53,14 @@ QImage ditherImage(const QImage &image)
     const int w = image.width();
     const int h = image.height();
 
-    // Transparent source areas dither as the yellow background (grey 215).
-    QImage work(image.size(), QImage::Format_RGB32);
-    work.fill(QColor(Qt::yellow));
-    {
+    // Transparent source areas dither as the yellow background (grey 215). Drawing an
+    // opaque image over it leaves just the image, so then a conversion does the same.
+    QImage work;
+    if (!image.hasAlphaChannel() || isOpaque32(image)) {
+        work = image.convertToFormat(QImage::Format_RGB32);
+    } else {
+        work = QImage(image.size(), QImage::Format_RGB32);
+        work.fill(QColor(Qt::yellow));
         QPainter painter(&work);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.drawImage(0, 0, image);

@@ -89,15 +89,18 @@ QImage refNegative(const QImage &src)
     return img;
 }
 
-// Random pixels; a third of them fully transparent, a third opaque, the rest in between.
-QImage randomImage(int w, int h, QImage::Format format, quint32 seed)
+// Random pixels; a third of them fully transparent, a third opaque, the rest in between
+// (or all opaque).
+QImage randomImage(int w, int h, QImage::Format format, quint32 seed, bool opaque = false)
 {
     QRandomGenerator rng(seed);
     QImage img(w, h, QImage::Format_ARGB32);
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x) {
             const int pick = int(rng.bounded(3));
-            const int a = pick == 0 ? 0 : (pick == 1 ? 255 : int(rng.bounded(256)));
+            int a = pick == 0 ? 0 : (pick == 1 ? 255 : int(rng.bounded(256)));
+            if (opaque)
+                a = 255;
             img.setPixel(x, y, qRgba(int(rng.bounded(256)), int(rng.bounded(256)),
                                      int(rng.bounded(256)), a));
         }
@@ -151,6 +154,7 @@ void TestImageModes::matchesPerPixelDefinition_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<int>("format");
     QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("opaque");
 
     const QList<QPair<const char *, QImage::Format>> formats = {
         {"argb32", QImage::Format_ARGB32},
@@ -165,8 +169,10 @@ void TestImageModes::matchesPerPixelDefinition_data()
     for (int mode : modes)
         for (const auto &f : formats)
             for (const QSize &s : sizes)
-                QTest::addRow("mode%d-%s-%dx%d", mode, f.first, s.width(), s.height())
-                    << mode << int(f.second) << s;
+                for (bool opaque : {false, true})
+                    QTest::addRow("mode%d-%s-%dx%d%s", mode, f.first, s.width(), s.height(),
+                                  opaque ? "-opaque" : "")
+                        << mode << int(f.second) << s << opaque;
 }
 
 void TestImageModes::matchesPerPixelDefinition()
@@ -174,8 +180,9 @@ void TestImageModes::matchesPerPixelDefinition()
     QFETCH(int, mode);
     QFETCH(int, format);
     QFETCH(QSize, size);
+    QFETCH(bool, opaque);
     const QImage src = randomImage(size.width(), size.height(), QImage::Format(format),
-                                   quint32(mode * 1000 + format * 10 + size.width()));
+                                   quint32(mode * 1000 + format * 10 + size.width()), opaque);
     QImage expected;
     switch (mode) {
     case 0:
