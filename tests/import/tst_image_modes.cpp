@@ -315,6 +315,7 @@ void TestImageModes::outlineOfFlatImageIsWhite_data()
     QTest::newRow("mid grey rgb32") << qRgb(120, 120, 120) << int(QImage::Format_RGB32);
     QTest::newRow("red rgba8888") << qRgb(200, 10, 10) << int(QImage::Format_RGBA8888);
     QTest::newRow("grey8") << qRgb(80, 80, 80) << int(QImage::Format_Grayscale8);
+    QTest::newRow("fully transparent") << qRgba(255, 255, 255, 0) << int(QImage::Format_ARGB32);
 }
 
 void TestImageModes::outlineOfFlatImageIsWhite()

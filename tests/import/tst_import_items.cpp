@@ -2,11 +2,13 @@
 // the traced item lying over its bitmap, and the selection rule of the window actions.
 #include "dxf_text.h"
 #include "import_items.h"
+#include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "program_state.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QUndoStack>
 #include <QtTest>
 
 using namespace lumitra;
@@ -50,6 +52,7 @@ private slots:
     void dxfItemIsMirrored();
     void dxfFileImport();
     void dxfFailuresCarryAMessage();
+    void dxfItemGoesThroughTheUndoableAdd();
     void tracedItemLiesOverTheBitmap_data();
     void tracedItemLiesOverTheBitmap();
     void traceOfBlankBitmapGivesNothing();
@@ -183,6 +186,22 @@ void TestImportItems::dxfFailuresCarryAMessage()
     message.clear();
     QVERIFY(importDxfItems(m_dir.filePath(QStringLiteral("missing.dxf")), &message).isEmpty());
     QVERIFY(!message.isEmpty());
+}
+
+void TestImportItems::dxfItemGoesThroughTheUndoableAdd()
+{
+    using namespace dxftext;
+    const QString path = m_dir.filePath(QStringLiteral("above.dxf"));
+    QVERIFY(write(path, file(lwpolyline({{10, 5, 0}, {60, 5, 0}, {60, 45, 0}}, true)).toUtf8()));
+    Jk_chang_jing scene;
+    scene.addItemsUndoable(importDxfItems(path, nullptr));
+    QCOMPARE(scene.designItemCount(), 1);
+    const QRectF box = scene.designItems().first()->sceneBoundingRect();
+    QVERIFY2(box.bottom() <= -5 + 1e-6 && box.top() >= -45 - 1e-6, qPrintable(describe(box)));
+    scene.undoStack()->undo();
+    QCOMPARE(scene.designItemCount(), 0);
+    scene.undoStack()->redo();
+    QCOMPARE(scene.designItemCount(), 1);
 }
 
 void TestImportItems::tracedItemLiesOverTheBitmap_data()

@@ -2,6 +2,7 @@
 // and the window actions that open it and trace a selected bitmap.
 #include "image_modes.h"
 #include "import_actions.h"
+#include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "moshiyulan.h"
 
@@ -173,6 +174,13 @@ void TestMoShiYuLan::traceSelectionAnnouncesTheItem()
     QCOMPARE(items.size(), 1);
     QVERIFY(!items.first()->is_bitmap);
     qDeleteAll(items);
+
+    // Wired as the window does it: the traced item lands in the scene through the undo stack.
+    Jk_chang_jing scene;
+    connect(&actions, &ImportActions::itemsCreated, &scene, &Jk_chang_jing::addItemsUndoable);
+    QVERIFY(actions.traceSelection({&bitmap}));
+    QCOMPARE(scene.designItemCount(), 1);
+    QVERIFY(!scene.designItems().first()->is_bitmap);
 }
 
 QTEST_MAIN(TestMoShiYuLan)
