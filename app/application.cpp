@@ -1,6 +1,7 @@
 #include "application.h"
 
 #include "command_line.h"
+#include "importer_registry.h"
 #include "language.h"
 #include "qidongye.h"
 #include "unix_signals.h"
@@ -29,7 +30,7 @@ int printAndExit(const CommandLine &cl)
     return cl.exitCode;
 }
 
-int runWindow(QApplication &app, const CommandLine &)
+int runWindow(QApplication &app, const CommandLine &cl)
 {
     const QString languageFile = load_language();
     const QIcon icon(QStringLiteral(":/newIcon/logo2.png"));
@@ -39,6 +40,7 @@ int runWindow(QApplication &app, const CommandLine &)
     if (translator.load(languageFile))
         app.installTranslator(&translator);
     load_work_area();
+    register_importers();
 
     QiDongYe *splash = nullptr;
     if (platformHasScreen()) {
@@ -51,6 +53,7 @@ int runWindow(QApplication &app, const CommandLine &)
     Widget window;
     window.setWindowIcon(icon);
     window.show();
+    window.openFiles(cl.filesToOpen);
     if (splash)
         splash->finish(&window);
     return app.exec();

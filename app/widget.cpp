@@ -2,12 +2,22 @@
 #include "ui_widget.h"
 
 #include "close_guard.h"
+#include "design_pages.h"
+#include "import_actions.h"
+#include "jk_chang_jing.h"
+#include "jk_tu_yuan.h"
 #include "language_controller.h"
+#include "layer_palette_bar.h"
+#include "layer_panel_controller.h"
+#include "layer_rows_panel.h"
 #include "program_state.h"
+#include "project_commands.h"
+#include "tu_ceng_zhi.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QUndoStack>
 
 using namespace lumitra;
 
@@ -21,6 +31,9 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     connect(m_language, &LanguageController::quitRequested, qApp, &QCoreApplication::exit,
             Qt::QueuedConnection);
 
+    setupDesign();
+    setupLayers();
+    setupImport();
     buildFileMenu();
 }
 
@@ -29,18 +42,78 @@ Widget::~Widget()
     delete ui;
 }
 
+void Widget::setupDesign()
+{
+    m_pages = new DesignPages(ui->viewTab);
+    ui->canvasHostLayout->addWidget(m_pages);
+    m_project = new ProjectCommands(m_pages, this, this);
+    connect(ui->open_Btn, &QPushButton::clicked, m_project, &ProjectCommands::open_project);
+    connect(ui->save_Btn, &QPushButton::clicked, m_project, &ProjectCommands::save_project);
+    connect(m_pages, &DesignPages::filesDropped, m_project, &ProjectCommands::open_files);
+}
+
+void Widget::setupLayers()
+{
+    m_palette = new LayerPaletteBar(ui->paletteHost);
+    ui->paletteHostLayout->addWidget(m_palette);
+    ui->paletteHostLayout->addStretch(1);
+    m_layerRows = new LayerRowsPanel(ui->layerHost);
+    m_layerParameters = new Tu_Ceng_Zhi(ui->layerHost);
+    ui->layerHostLayout->addWidget(m_layerRows, 1);
+    ui->layerHostLayout->addWidget(m_layerParameters);
+    m_layers = new LayerPanelController(m_pages, m_layerRows, m_palette, m_layerParameters, this);
+    m_layers->rebuild();
+}
+
+void Widget::setupImport()
+{
+    m_import = new ImportActions(this);
+    connect(m_import, &ImportActions::itemsCreated, this, [this](const QList<Jk_tu_yuan *> &items) {
+        if (Jk_chang_jing *scene = m_pages->currentScene())
+            scene->addItemsUndoable(items);
+    });
+}
+
+QList<QGraphicsItem *> Widget::currentSelection() const
+{
+    Jk_chang_jing *scene = m_pages->currentScene();
+    return scene ? scene->selectedItems() : QList<QGraphicsItem *>();
+}
+
 void Widget::buildFileMenu()
 {
     auto *menu = new QMenu(this);
+    QAction *newPage = menu->addAction(tr("新建页面"));
+    connect(newPage, &QAction::triggered, m_pages, [this] { m_pages->addPage(); });
+    QAction *open = menu->addAction(tr("打开"));
+    open->setShortcut(QKeySequence::Open);
+    connect(open, &QAction::triggered, m_project, &ProjectCommands::open_project);
+    QAction *save = menu->addAction(tr("保存"));
+    save->setShortcut(QKeySequence::Save);
+    connect(save, &QAction::triggered, m_project, &ProjectCommands::save_project);
+    menu->addSeparator();
+    QAction *preview = menu->addAction(tr("图像模式预览"));
+    connect(preview, &QAction::triggered, this,
+            [this] { m_import->openModePreview(currentSelection()); });
+    QAction *trace = menu->addAction(tr("描摹位图"));
+    connect(trace, &QAction::triggered, this,
+            [this] { m_import->traceSelection(currentSelection()); });
+    menu->addSeparator();
     QAction *quit = menu->addAction(tr("退出"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
     ui->file_Btn->setMenu(menu);
+    addActions(menu->actions()); // shortcuts work without opening the menu
+}
+
+void Widget::openFiles(const QStringList &paths)
+{
+    m_project->open_files(paths);
 }
 
 int Widget::designItemCount() const
 {
-    return 0;
+    return m_pages->totalItemCount();
 }
 
 void Widget::closeEvent(QCloseEvent *event)

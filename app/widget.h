@@ -1,10 +1,21 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
+
+class QGraphicsItem;
 
 namespace Ui {
 class Widget;
 }
+
+class DesignPages;
+class ImportActions;
+class LayerPaletteBar;
+class LayerPanelController;
+class LayerRowsPanel;
+class ProjectCommands;
+class Tu_Ceng_Zhi;
 
 namespace lumitra {
 class LanguageController;
@@ -25,13 +36,30 @@ public:
     int designItemCount() const;
 
     lumitra::LanguageController *languageController() const { return m_language; }
+    DesignPages *pages() const { return m_pages; }
+    ProjectCommands *projectCommands() const { return m_project; }
+    LayerPanelController *layerController() const { return m_layers; }
+
+    // Opens design files given on the command line.
+    void openFiles(const QStringList &paths);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildFileMenu();
+    void setupDesign();
+    void setupLayers();
+    void setupImport();
+    QList<QGraphicsItem *> currentSelection() const;
 
     Ui::Widget *ui;
     lumitra::LanguageController *m_language = nullptr;
+    DesignPages *m_pages = nullptr;
+    ProjectCommands *m_project = nullptr;
+    LayerPaletteBar *m_palette = nullptr;
+    LayerRowsPanel *m_layerRows = nullptr;
+    Tu_Ceng_Zhi *m_layerParameters = nullptr;
+    LayerPanelController *m_layers = nullptr;
+    ImportActions *m_import = nullptr;
 };
