@@ -148,8 +148,10 @@ int DesignPages::addPage(const QString &name)
     page->view = new Jk_shi_tu(page->scene);
     m_undoGroup->addStack(page->scene->undoStack());
     connect(page->scene, &Jk_chang_jing::designChanged, this, [this, scene = page->scene] {
-        if (scene == currentScene())
-            emit designChanged();
+        if (scene != currentScene())
+            return;
+        rebuildLayerList(scene);
+        emit designChanged();
     });
     connect(page->scene, &Jk_chang_jing::textEditRequested, this, &DesignPages::textEditRequested);
     connect(page->view, &Jk_shi_tu::filesDropped, this, &DesignPages::filesDropped);
@@ -220,8 +222,10 @@ void DesignPages::onCurrentChanged(int index)
     if (next)
         next->parked.swap(layers);
     m_current = next;
-    if (next)
+    if (next) {
         m_undoGroup->setActiveStack(next->scene->undoStack());
+        rebuildLayerList(next->scene);
+    }
     emit currentPageChanged(index);
 }
 
@@ -251,9 +255,18 @@ QList<ProjectPageOut> DesignPages::projectPages() const
 
 void DesignPages::applyProject(ProjectReadResult &result)
 {
+    // A design that is one empty page takes the first stored name instead of
+    // gaining a page.
+    const bool untouched = count() == 1 && totalItemCount() == 0;
+    bool first = true;
     for (ProjectPageIn &page : result.pages) {
-        if (page.named && !page.name.isEmpty())
-            showPage(page.name);
+        if (page.named && !page.name.isEmpty()) {
+            if (first && untouched && indexOfPage(page.name) < 0)
+                renamePage(currentIndex(), page.name);
+            else
+                showPage(page.name);
+            first = false;
+        }
         LayerList &layers = LayerList::instance();
         for (const TuCeng &l : qAsConst(page.layers)) {
             if (TuCeng *existing = layers.find(l.yanse, l.tupian))
@@ -264,7 +277,7 @@ void DesignPages::applyProject(ProjectReadResult &result)
         const QList<Jk_tu_yuan *> items = page.items;
         page.items.clear();
         currentScene()->addItemsUndoable(items);
-        rebuildLayerList(currentScene());
+        rebuildLayerList(currentScene()); // also when the page got no items
     }
     emit designChanged();
 }

@@ -15,8 +15,9 @@ class QUndoStack;
 
 // The design pages: a tab bar of pages, each with its own scene, view and undo
 // stack (all stacks in one undo group whose active stack is the current
-// page's). The program-wide layer list always holds the current page's layers;
-// the other pages keep theirs parked until they become current again.
+// page's). The program-wide layer list always holds the current page's layers
+// and is rebuilt whenever that page's items change or another page becomes
+// current; the other pages keep theirs parked until they are current again.
 // Tabs can be added ("+"), renamed (double-click) and closed; the last page
 // cannot be closed. The window embeds this widget as its central canvas.
 class DesignPages : public QWidget
@@ -55,7 +56,8 @@ public:
     // Every page in tab order as the project writer wants it.
     QList<ProjectPageOut> projectPages() const;
     // Puts what the project reader got onto the pages: each named page is made
-    // current (or created), its layer records join the current layer list (a
+    // current (or created; a design that is a single empty page takes the
+    // first name instead), its layer records join the current layer list (a
     // record for a layer that exists replaces its parameters) and its items are
     // added through the undoable add. The result's items are taken.
     void applyProject(ProjectReadResult &result);
@@ -65,7 +67,8 @@ public:
 
 signals:
     void currentPageChanged(int index);
-    // The current page's items changed (added, removed, moved to a layer...).
+    // The current page's items changed (added, removed, moved to a layer...);
+    // the layer list has been rebuilt already.
     void designChanged();
     void textEditRequested(Jk_tu_yuan *item);
     void filesDropped(const QStringList &paths);
