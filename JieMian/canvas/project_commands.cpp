@@ -38,7 +38,6 @@ ProjectCommands::ProjectCommands(DesignPages *pages, QWidget *dialogParent, QObj
     : QObject(parent), m_pages(pages), m_dialogParent(dialogParent), m_askSavePath(askSaveFile),
       m_askOpenPath(askOpenFile)
 {
-    connect(pages, &DesignPages::filesDropped, this, &ProjectCommands::open_files);
 }
 
 void ProjectCommands::setSavePathAsker(PathAsker asker)

@@ -10,7 +10,8 @@ class QWidget;
 
 // The window's project commands: save, open (with their file dialogs and
 // refusals) and the open dispatch for one path, which files dropped on the
-// canvas also go through. Messages go through the message-box helper.
+// canvas also go through (the window connects DesignPages::filesDropped to
+// open_files). Messages go through the message-box helper.
 class ProjectCommands : public QObject
 {
     Q_OBJECT

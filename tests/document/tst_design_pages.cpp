@@ -417,6 +417,8 @@ void TestDesignPages::droppedFilesAreOpened()
 {
     DesignPages pages;
     ProjectCommands commands(&pages, nullptr);
+    // Wired as the window wires it.
+    connect(&pages, &DesignPages::filesDropped, &commands, &ProjectCommands::open_files);
     QMimeData mime;
     mime.setUrls({QUrl::fromLocalFile(writePng(QStringLiteral("a.png"))),
                   QUrl::fromLocalFile(writePng(QStringLiteral("b.bmp"))),
