@@ -1,0 +1,259 @@
+#include "machine_controller.h"
+
+#include "chuan_kou_jian_ce.h"
+#include "grbl_protocol.h"
+#include "jk_com.h"
+#include "machine_panel.h"
+#include "message_box.h"
+#include "program_state.h"
+#include "ui_machine_panel.h"
+
+#include <QDebug>
+#include <QTime>
+
+using lumitra::programState;
+
+namespace {
+
+constexpr int kIndicatorTickMs = 1000;
+constexpr int kSettingsAfterConnectMs = 2000;
+constexpr int kHomeAfterAlarmMs = 1000;
+
+} // namespace
+
+MachineController::MachineController(MachinePanel *panel, QWidget *dialogParent, QObject *parent)
+    : QObject(parent), m_panel(panel), m_dialogParent(dialogParent)
+{
+    qRegisterMetaType<lumitra::MachineTravel>("lumitra::MachineTravel");
+    m_indicatorTimer.setInterval(kIndicatorTickMs);
+    connect(&m_indicatorTimer, &QTimer::timeout, this, &MachineController::updateRunTime);
+    m_afterConnectTimer.setSingleShot(true);
+    m_afterConnectTimer.setInterval(kSettingsAfterConnectMs);
+    connect(&m_afterConnectTimer, &QTimer::timeout, this, [this] {
+        if (m_com && m_com->isLinked())
+            m_com->requestSettings();
+    });
+    connectPanel();
+}
+
+MachineController::~MachineController()
+{
+    if (m_watcher)
+        m_watcher->stop();
+}
+
+void MachineController::startPortWatcher(std::function<QStringList()> lister)
+{
+    if (m_watcher)
+        return;
+    m_watcher = new Chuan_Kou_Jian_Ce(this);
+    if (lister)
+        m_watcher->setPortLister(std::move(lister));
+    connectWatcher();
+    m_watcher->setLinkMode(programState().connectionMode);
+    m_watcher->start();
+}
+
+void MachineController::connectWatcher()
+{
+    Ui::MachinePanel &f = m_panel->form();
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::portAppended, this,
+            [&f](const QString &port) { f.port_Box->addItem(port); });
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::portRemoved, this,
+            [&f](int row) { f.port_Box->removeItem(row); });
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::selectPort, this, [&f](const QString &port) {
+        if (!port.isEmpty())
+            f.port_Box->setCurrentText(port);
+    });
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::send_Duan_Kai, this, [this] {
+        if (programState().connectionMode == lumitra::SerialLink)
+            onLinkLost();
+    });
+    connect(f.port_Box, &QComboBox::currentTextChanged, this, [this](const QString &port) {
+        if (m_watcher)
+            m_watcher->setSelectedPort(port);
+    });
+    m_watcher->setSelectedPort(f.port_Box->currentText());
+}
+
+void MachineController::toggleConnection()
+{
+    const int mode = programState().connectionMode;
+    if (mode == lumitra::SerialLink) {
+        disconnectLink();
+        return;
+    }
+    if (mode != lumitra::NotConnected)
+        return; // the WiFi link is up
+    const QString port = m_panel->form().port_Box->currentText();
+    if (port.isEmpty()) {
+        qDebug() << " out no port selected";
+        return;
+    }
+    if (!m_com) {
+        m_com = new Jk_com(this);
+        connect(m_com, &Jk_com::yi_lian_jie, this, &MachineController::onLinkResult,
+                Qt::QueuedConnection);
+        connect(m_com, &Jk_com::shu_chu_zhuang_tai, this, &MachineController::onStatus,
+                Qt::QueuedConnection);
+        connect(m_com, &Jk_com::shu_chu_can_shu, this, &MachineController::onSettings,
+                Qt::QueuedConnection);
+        connect(m_com, &Jk_com::linkLost, this, &MachineController::onLinkLost,
+                Qt::QueuedConnection);
+        connect(m_com, &Jk_com::diao_ke_jin_du, m_panel->form().progress_Bar,
+                &QProgressBar::setValue, Qt::QueuedConnection);
+    }
+    if (!m_com->connectPort(port))
+        showDisconnected();
+}
+
+void MachineController::disconnectLink()
+{
+    if (m_com)
+        m_com->disconnectPort();
+    showDisconnected();
+}
+
+void MachineController::onLinkResult(bool linked)
+{
+    qDebug() << " Com_Lian_Jie_Fan_Hui" << linked;
+    if (!linked || !m_com || !m_com->isLinked()) {
+        showDisconnected();
+        return;
+    }
+    programState().connectionMode = lumitra::SerialLink;
+    m_com->queueText(lumitra::grbl::homeText());
+    m_afterConnectTimer.start();
+    m_panel->form().connect_Btn->setText(tr("已连接"));
+    if (m_watcher) {
+        m_watcher->setSelectedPort(m_com->portName());
+        m_watcher->setLinkMode(lumitra::SerialLink);
+    }
+    emit connectionChanged(lumitra::SerialLink);
+}
+
+void MachineController::onLinkLost()
+{
+    qDebug() << " out serial link lost";
+    disconnectLink();
+}
+
+void MachineController::showDisconnected()
+{
+    Ui::MachinePanel &f = m_panel->form();
+    const bool wasConnected = programState().connectionMode == lumitra::SerialLink;
+    if (wasConnected)
+        programState().connectionMode = lumitra::NotConnected;
+    m_afterConnectTimer.stop();
+    m_indicatorTimer.stop();
+    f.connect_Btn->setText(tr("连接"));
+    f.running_Lab->hide();
+    f.pause_Btn->setText(tr("暂停"));
+    f.fire_Btn->setChecked(false);
+    if (m_watcher)
+        m_watcher->setLinkMode(programState().connectionMode);
+    setBusy(false);
+    if (wasConnected)
+        emit connectionChanged(programState().connectionMode);
+}
+
+void MachineController::setBusy(bool serialBusy)
+{
+    const bool was = busy();
+    m_status.busy = serialBusy;
+    programState().running = busy();
+    if (busy() != was)
+        emit busyChanged(busy());
+}
+
+void MachineController::setWifiBusy(bool wifiBusy)
+{
+    const bool was = busy();
+    m_wifiBusy = wifiBusy;
+    programState().running = busy();
+    if (busy() != was)
+        emit busyChanged(busy());
+}
+
+void MachineController::onStatus(const QString &text)
+{
+    qDebug() << text;
+    Ui::MachinePanel &f = m_panel->form();
+    const bool wasBusy = busy();
+    const StatusReaction r =
+        reactToStatus(StatusLink::Serial, m_status, text, f.console_Edit->toPlainText().size());
+    programState().running = busy();
+    if (busy() != wasBusy)
+        emit busyChanged(busy());
+
+    if (r.hasX || r.hasY) {
+        if (r.hasX)
+            m_x = r.x;
+        if (r.hasY)
+            m_y = r.y;
+        f.pos_Lab->setText(QStringLiteral("X:%1 Y:%2").arg(m_x, 0, 'f', 3).arg(m_y, 0, 'f', 3));
+        emit positionChanged(m_x, m_y);
+    }
+    if (r.cameraChanged)
+        emit cameraAddressChanged(r.cameraAddress);
+    if (r.showIndicator)
+        f.running_Lab->show();
+    if (r.stopIndicatorTimer)
+        m_indicatorTimer.stop();
+    if (r.hideIndicator)
+        f.running_Lab->hide();
+    if (r.clearConsole)
+        f.console_Edit->clear();
+    if (r.appendConsole)
+        f.console_Edit->appendPlainText(text.trimmed());
+    if (r.showAlarm)
+        QTimer::singleShot(0, this, &MachineController::showAlarm);
+}
+
+void MachineController::showAlarm()
+{
+    m_indicatorTimer.stop();
+    m_panel->form().running_Lab->hide();
+    lumitra::show_message(m_dialogParent, lumitra::MessageKind::Warning, QString(), tr("确定"),
+                          tr("设备触发警告!"), tr("警告"));
+    QTimer::singleShot(kHomeAfterAlarmMs, this, [this] {
+        m_status.alarmShown = false;
+        if (programState().connectionMode == lumitra::SerialLink && m_com)
+            m_com->queueText(lumitra::grbl::homeText());
+    });
+}
+
+void MachineController::onSettings(const QMap<QString, QString> &info)
+{
+    const lumitra::MachineTravel travel =
+        lumitra::work_area_from_machine(lumitra::numbered_settings(info));
+    Ui::MachinePanel &f = m_panel->form();
+    if (travel.maxRateX >= 0) {
+        f.feed_Slider->setRange(0, travel.maxRateX);
+        f.feed_Slider->setValue(travel.maxRateX / 2);
+    }
+    m_zTravel = travel.zTravel;
+    bool ok = false;
+    const double maxS = info.value(QStringLiteral("$30")).toDouble(&ok);
+    if (ok && maxS > 0.0)
+        m_laserMaxS = maxS;
+    if (travel.workAreaKnown)
+        m_travelKnown = true;
+    const bool firstTime = !m_settingsApplied;
+    m_settingsApplied = true;
+    emit machineTravelKnown(travel, firstTime);
+}
+
+void MachineController::updateRunTime()
+{
+    ++m_runSeconds;
+    m_panel->form().running_Lab->setText(
+        QTime(0, 0).addSecs(m_runSeconds).toString(QStringLiteral("hh:mm:ss")));
+}
+
+void MachineController::startIndicator()
+{
+    m_runSeconds = 0;
+    m_indicatorTimer.start();
+    m_status.idleCounter = kIdleCounterJobStart;
+}

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "status_reaction.h"
+#include "work_area.h"
+
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QRectF>
+#include <QTimer>
+#include <functional>
+
+class Chuan_Kou_Jian_Ce;
+class Jk_com;
+class MachinePanel;
+class QWidget;
+
+// Carries out every machine control of the panel over the current link, and
+// the window's reaction to what the machine reports. Owns the serial link
+// (Jk_com, created at the first connect) and the port watcher; owns none of the
+// widgets. GUI thread only.
+//
+// Serial controls go through the link's queue (real-time bytes for pause,
+// resume and stop). In WiFi mode every control becomes a command URL announced
+// by wifiCommand(); the WiFi link carries it out. Without a link a control is
+// refused with "请先连接设备!". Messages go through lumitra::show_message and
+// show_notice with `dialogParent` as parent.
+class MachineController : public QObject
+{
+    Q_OBJECT
+
+public:
+    MachineController(MachinePanel *panel, QWidget *dialogParent, QObject *parent = nullptr);
+    ~MachineController() override;
+
+    // The serial link, or nullptr before the first connect.
+    Jk_com *link() const { return m_com; }
+
+    // Starts the port watcher; `lister` replaces the system's port list (tests).
+    void startPortWatcher(std::function<QStringList()> lister = {});
+    Chuan_Kou_Jian_Ce *portWatcher() const { return m_watcher; }
+
+    // Where the frame button and frameDesign() take the design's output area
+    // (scene rectangle, mm); the window gives outputBounds() of its scene.
+    void setFrameSource(std::function<QRectF()> source) { m_frameSource = std::move(source); }
+    // Replaces the run-file dialog (tests); returns the chosen path or "".
+    void setFileChooser(std::function<QString()> chooser) { m_fileChooser = std::move(chooser); }
+    // The address typed in the window's IP field (WiFi commands).
+    void setWifiAddress(const QString &address) { m_wifiAddress = address; }
+    // The WiFi link's busy flag, kept by the WiFi status handler.
+    void setWifiBusy(bool busy);
+
+    // Serial busy flag (Run/Hold seen, no Idle since) or WiFi busy flag.
+    bool busy() const { return m_status.busy || m_wifiBusy; }
+    const StatusDisplayState &statusState() const { return m_status; }
+    // The laser's maximum S value (setting $30 when the machine reported it).
+    double laserMaxS() const { return m_laserMaxS; }
+    double zTravel() const { return m_zTravel; }
+    bool travelKnown() const { return m_travelKnown; }
+
+public slots:
+    // The connect button: connects to the selected port, or disconnects.
+    void toggleConnection();
+    void disconnectLink();
+
+    void home();
+    void goToOrigin();
+    void setOrigin();
+    void clearOrigin();
+    void moveToPosition();
+    void pauseOrResume();
+    void stop();
+    void testFire(bool on);
+    void jog(int padIndex);
+    // Runs `path` as the job (the window's start button after generation).
+    void runJob(const QString &path);
+    // The run-file button: asks for a ".nc"/".gcode" file and runs it.
+    void runFileFromDisk();
+    // Traces the output area with the laser off at the jog feed.
+    void frameDesign();
+
+signals:
+    void connectionChanged(int mode);
+    void busyChanged(bool busy);
+    // The machine reported its settings; `firstTime` the first time in a run
+    // (the window refits the view). Setting 101 is left to the window's second
+    // speed slider.
+    void machineTravelKnown(const lumitra::MachineTravel &travel, bool firstTime);
+    void cameraAddressChanged(const QString &address);
+    void positionChanged(double x, double y);
+    // WiFi mode: a command URL for the WiFi link, and a job file to upload.
+    void wifiCommand(const QString &url);
+    void wifiUploadRequested(const QString &path);
+
+private:
+    void onLinkResult(bool linked);
+    void onStatus(const QString &text);
+    void onSettings(const QMap<QString, QString> &info);
+    void onLinkLost();
+    void showAlarm();
+    void showDisconnected();
+    void updateRunTime();
+    void startIndicator();
+    void setBusy(bool serialBusy);
+
+    // Guards. True when the control may go ahead (a refusal was shown otherwise).
+    bool linked();
+    bool notBusy(const QString &refusal);
+    // Sends a control: queued text on the serial link, a command URL on WiFi.
+    void send(const QString &serialText, const QString &wifiText);
+    void sendWifi(const QString &command);
+    void sendTestFire();
+    void connectPanel();
+    void connectWatcher();
+
+    MachinePanel *m_panel;
+    QPointer<QWidget> m_dialogParent;
+    Jk_com *m_com = nullptr;
+    Chuan_Kou_Jian_Ce *m_watcher = nullptr;
+    StatusDisplayState m_status;
+    bool m_wifiBusy = false;
+    bool m_travelKnown = false;     // the machine reported its work area
+    bool m_settingsApplied = false; // settings seen at least once this run
+    double m_x = 0.0;               // machine position last reported, mm
+    double m_y = 0.0;
+    double m_zTravel = 0.0;
+    double m_laserMaxS = 1000.0;
+    int m_runSeconds = 0;
+    QTimer m_indicatorTimer;
+    QTimer m_afterConnectTimer;
+    QString m_wifiAddress;
+    std::function<QRectF()> m_frameSource;
+    std::function<QString()> m_fileChooser;
+};

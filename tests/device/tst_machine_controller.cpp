@@ -1,0 +1,393 @@
+#include "frame_area.h"
+#include "grbl_fake.h"
+#include "jk_com.h"
+#include "jk_tu_yuan.h"
+#include "layer_list.h"
+#include "machine_controller.h"
+#include "machine_panel.h"
+#include "message_box.h"
+#include "program_state.h"
+#include "stream_state.h"
+#include "ui_machine_panel.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using lumitra::programState;
+
+class TestMachineController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void connectHomesAndShowsLinked();
+    void settingsGiveWorkArea();
+    void controls_data();
+    void controls();
+    void refusedWithoutLink_data();
+    void refusedWithoutLink();
+    void refusedWhileBusy();
+    void pauseAndResume();
+    void testFireFollowsPower();
+    void stopEmptiesTheStream();
+    void alarmShowsOnceThenHomes();
+    void runFileShowsIndicatorUntilIdle();
+    void unplugShowsDisconnected();
+    void framing();
+    void outputBoundsSkipsHiddenLayers();
+    void watcherFillsPortList();
+    void wifiCommands();
+
+private:
+    // Connects the controller to a started fake through the panel.
+    bool connectTo(GrblFake &fake);
+    QStringList linesAfterConnect(const GrblFake &fake) const { return fake.lines().mid(2); }
+
+    QList<lumitra::MessageRequest> m_messages;
+    std::unique_ptr<MachinePanel> m_panel;
+    std::unique_ptr<MachineController> m_controller;
+};
+
+void TestMachineController::init()
+{
+    lumitra::resetProgramState();
+    m_messages.clear();
+    lumitra::set_message_handler([this](const lumitra::MessageRequest &r) {
+        m_messages.append(r);
+        return 1;
+    });
+    m_panel = std::make_unique<MachinePanel>();
+    m_controller = std::make_unique<MachineController>(m_panel.get(), m_panel.get());
+}
+
+void TestMachineController::cleanup()
+{
+    m_controller.reset();
+    m_panel.reset();
+    lumitra::set_message_handler({});
+    LayerList::instance().clear();
+}
+
+bool TestMachineController::connectTo(GrblFake &fake)
+{
+    if (!fake.start())
+        return false;
+    Ui::MachinePanel &f = m_panel->form();
+    f.port_Box->addItem(fake.portName());
+    f.port_Box->setCurrentText(fake.portName());
+    f.connect_Btn->click();
+    // Linked, and the home command queued after linking has arrived.
+    return QTest::qWaitFor([&] {
+        return programState().connectionMode == lumitra::SerialLink && fake.lineCount() >= 2;
+    });
+}
+
+void TestMachineController::connectHomesAndShowsLinked()
+{
+    GrblFake fake;
+    QSignalSpy changed(m_controller.get(), &MachineController::connectionChanged);
+    QVERIFY(connectTo(fake));
+    QCOMPARE(fake.lines(), (QStringList{"$i", "$H"}));
+    QCOMPARE(m_panel->form().connect_Btn->text(), QString("已连接"));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().first().toInt(), int(lumitra::SerialLink));
+
+    m_panel->form().connect_Btn->click(); // the second click disconnects
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QCOMPARE(m_panel->form().connect_Btn->text(), QString("连接"));
+    QVERIFY(!m_controller->link()->isOpen());
+    QVERIFY(m_messages.isEmpty());
+}
+
+void TestMachineController::settingsGiveWorkArea()
+{
+    GrblFake::Options o;
+    o.settings = {{30, "255"}, {110, "8000.000"}, {130, "300.4"}, {131, "180.6"}, {132, "45.5"}};
+    GrblFake fake(o);
+    QSignalSpy travel(m_controller.get(), &MachineController::machineTravelKnown);
+    QVERIFY(connectTo(fake));
+    // The settings are asked for 2 s after linking.
+    QVERIFY(travel.wait(3500));
+    QCOMPARE(linesAfterConnect(fake), (QStringList{"$I", "$$"}));
+    QCOMPARE(programState().width, 300);
+    QCOMPARE(programState().height, 181);
+    QCOMPARE(travel.first().at(1).toBool(), true);
+    QVERIFY(m_controller->travelKnown());
+    QCOMPARE(m_controller->zTravel(), 45.5);
+    QCOMPARE(m_controller->laserMaxS(), 255.0);
+    QCOMPARE(m_panel->form().feed_Slider->maximum(), 8000);
+    QCOMPARE(m_panel->form().feed_Slider->value(), 4000);
+}
+
+void TestMachineController::controls_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QStringList>("sent");
+
+    QTest::newRow("home unlocks first") << "home_Btn" << QStringList{"$X", "$H"};
+    QTest::newRow("go to origin") << "origin_Btn" << QStringList{"$J=G90X0Y0F5000"};
+    QTest::newRow("set origin") << "setOrigin_Btn" << QStringList{"G92X0Y0Z0"};
+    QTest::newRow("clear origin") << "clearOrigin_Btn" << QStringList{"G92.1"};
+    QTest::newRow("move to") << "move_Btn" << QStringList{"G90X12.5Y-3"};
+    QTest::newRow("jog up-left") << "jog0_Btn" << QStringList{"$J=G91X-10Y10F3000"};
+    QTest::newRow("jog right") << "jog5_Btn" << QStringList{"$J=G91X10F3000"};
+    QTest::newRow("jog down") << "jog7_Btn" << QStringList{"$J=G91Y-10F3000"};
+    QTest::newRow("jog centre") << "jog4_Btn" << QStringList{"$J=G90X0Y0F3000"};
+    QTest::newRow("test fire") << "fire_Btn" << QStringList{"M3S10G1F1000"};
+}
+
+void TestMachineController::controls()
+{
+    QFETCH(QString, button);
+    QFETCH(QStringList, sent);
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    m_panel->form().x_Box->setValue(12.5);
+    m_panel->form().y_Box->setValue(-3);
+    auto *b = m_panel->findChild<QPushButton *>(button);
+    QVERIFY(b);
+    b->click();
+    QTRY_COMPARE(linesAfterConnect(fake), sent);
+    QVERIFY(m_messages.isEmpty());
+}
+
+void TestMachineController::refusedWithoutLink_data()
+{
+    QTest::addColumn<QString>("button");
+    for (const char *b : {"home_Btn", "origin_Btn", "setOrigin_Btn", "clearOrigin_Btn", "move_Btn",
+                          "stop_Btn", "jog3_Btn", "frame_Btn", "fire_Btn"})
+        QTest::newRow(b) << QString(b);
+}
+
+void TestMachineController::refusedWithoutLink()
+{
+    QFETCH(QString, button);
+    m_panel->findChild<QPushButton *>(button)->click();
+    QCOMPARE(m_messages.size(), 1);
+    QCOMPARE(m_messages.first().message, QString("请先连接设备!"));
+    QCOMPARE(m_messages.first().title, QString("提示"));
+    QVERIFY(!m_panel->form().fire_Btn->isChecked());
+    QVERIFY(m_controller->link() == nullptr);
+}
+
+void TestMachineController::refusedWhileBusy()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    QSignalSpy busy(m_controller.get(), &MachineController::busyChanged);
+    fake.sendRaw("<Run|MPos:1.000,2.000,0.000|FS:100,0>\r\n");
+    QVERIFY(busy.wait(2000));
+    QVERIFY(m_controller->busy());
+    QVERIFY(programState().running);
+    QCOMPARE(m_panel->form().pos_Lab->text(), QString("X:1.000 Y:2.000"));
+
+    Ui::MachinePanel &f = m_panel->form();
+    f.home_Btn->click();
+    f.fire_Btn->click();
+    f.run_Btn->click();
+    QCOMPARE(m_messages.size(), 3);
+    QCOMPARE(m_messages.at(0).message, QString("设备运行中禁用此功能!"));
+    QCOMPARE(m_messages.at(1).message, QString("设备运行中禁用此功能!"));
+    QCOMPARE(m_messages.at(2).message, QString("设备雕刻中,暂时停止使用!"));
+    QVERIFY(!f.fire_Btn->isChecked());
+    QTest::qWait(50);
+    QCOMPARE(fake.lineCount(), 2);
+}
+
+void TestMachineController::pauseAndResume()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    Ui::MachinePanel &f = m_panel->form();
+    f.pause_Btn->click(); // not busy: nothing
+    QCOMPARE(f.pause_Btn->text(), QString("暂停"));
+    QTest::qWait(30);
+    QVERIFY(!fake.realTimeBytes().contains('!'));
+
+    fake.sendRaw("<Run|MPos:0.000,0.000,0.000|FS:100,0>\r\n");
+    QTRY_VERIFY(m_controller->busy());
+    f.pause_Btn->click();
+    QCOMPARE(f.pause_Btn->text(), QString("继续"));
+    QTRY_VERIFY(fake.realTimeBytes().contains('!'));
+    f.pause_Btn->click();
+    QCOMPARE(f.pause_Btn->text(), QString("暂停"));
+    QTRY_VERIFY(fake.realTimeBytes().contains('~'));
+    QVERIFY(m_messages.isEmpty());
+}
+
+void TestMachineController::testFireFollowsPower()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    Ui::MachinePanel &f = m_panel->form();
+    f.power_Box->setValue(2);
+    f.fire_Btn->click();
+    QVERIFY(f.fire_Btn->isChecked());
+    f.power_Box->setValue(5);
+    f.fire_Btn->click();
+    QVERIFY(!f.fire_Btn->isChecked());
+    QCOMPARE(f.fire_Btn->text(), QString("点火"));
+    f.power_Box->setValue(7); // unchecked: not sent
+    QTRY_COMPARE(linesAfterConnect(fake),
+                 (QStringList{"M3S20G1F1000", "M3S50G1F1000", "M5S0G0F1000"}));
+    QTest::qWait(50);
+    QCOMPARE(fake.lineCount(), 5);
+}
+
+void TestMachineController::stopEmptiesTheStream()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("long.nc");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (int i = 0; i < 20000; ++i)
+        file.write(QString("G1X%1Y1\n").arg(i % 300).toLatin1());
+    file.close();
+    GrblFake::Options o;
+    o.bytesPerSecond = 11520.0;
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    m_controller->runJob(path);
+    QTRY_VERIFY(fake.lineCount() > 30);
+    m_panel->form().pause_Btn->setText("继续");
+    m_panel->form().stop_Btn->click();
+    QCOMPARE(m_panel->form().pause_Btn->text(), QString("暂停"));
+    QVERIFY(m_controller->link()->stream().drained());
+    QVERIFY(!m_controller->link()->jobRunning());
+    QTRY_VERIFY(fake.realTimeBytes().contains(char(0x18)));
+    QVERIFY(!fake.overrun());
+}
+
+void TestMachineController::alarmShowsOnceThenHomes()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    fake.raiseAlarm(1);
+    // The 500 ms poll reads the alarm; the link resets and unlocks.
+    QTRY_COMPARE_WITH_TIMEOUT(m_messages.size(), 1, 3000);
+    QCOMPARE(m_messages.first().message, QString("设备触发警告!"));
+    QCOMPARE(m_messages.first().title, QString("警告"));
+    QCOMPARE(m_messages.first().firstButton, QString("确定"));
+    QCOMPARE(m_messages.first().kind, lumitra::MessageKind::Warning);
+    // The link unlocked, and one second after the message the machine is homed.
+    QTRY_VERIFY_WITH_TIMEOUT(linesAfterConnect(fake).contains("$X"), 3000);
+    QTRY_COMPARE_WITH_TIMEOUT(linesAfterConnect(fake).last(), QString("$H"), 3000);
+    const QStringList after = linesAfterConnect(fake);
+    QVERIFY(after.indexOf("$X") < after.lastIndexOf("$H"));
+    QCOMPARE(m_messages.size(), 1);
+    QVERIFY(!m_controller->statusState().alarmShown);
+}
+
+void TestMachineController::runFileShowsIndicatorUntilIdle()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("job.NC");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (int i = 0; i < 40; ++i)
+        file.write(QString("G1X%1Y2\n").arg(i).toLatin1());
+    file.close();
+    GrblFake::Options o;
+    o.motionMsPerLine = 20; // about 0.8 s of Run
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    m_controller->setFileChooser([path] { return path; });
+    QSignalSpy busy(m_controller.get(), &MachineController::busyChanged);
+    m_panel->form().run_Btn->click();
+    QCOMPARE(programState().jobFilePath, path);
+    QTRY_VERIFY_WITH_TIMEOUT(m_panel->form().running_Lab->isVisibleTo(m_panel.get()), 3000);
+    QVERIFY(m_controller->busy());
+    // Idle again: the indicator goes on the fourth Idle report.
+    QTRY_VERIFY_WITH_TIMEOUT(!m_controller->busy(), 5000);
+    QVERIFY(m_panel->form().running_Lab->isVisibleTo(m_panel.get()));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_panel->form().running_Lab->isVisibleTo(m_panel.get()), 4000);
+    QVERIFY(fake.lines().contains("G1X39Y2"));
+    QCOMPARE(m_panel->form().progress_Bar->value(), 100);
+    QCOMPARE(busy.count(), 2);
+    QVERIFY(m_panel->form().console_Edit->toPlainText().contains("Run X:"));
+}
+
+void TestMachineController::unplugShowsDisconnected()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    QSignalSpy changed(m_controller.get(), &MachineController::connectionChanged);
+    fake.closeFarEnd();
+    QVERIFY(changed.wait(3000));
+    QCOMPARE(changed.first().first().toInt(), int(lumitra::NotConnected));
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QCOMPARE(m_panel->form().connect_Btn->text(), QString("连接"));
+    QVERIFY(!m_controller->link()->isOpen());
+    m_panel->form().home_Btn->click();
+    QCOMPARE(m_messages.last().message, QString("请先连接设备!"));
+}
+
+void TestMachineController::framing()
+{
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    m_panel->form().frame_Btn->click(); // no design: nothing
+    m_controller->setFrameSource([] { return QRectF(10, -80, 50, 30); });
+    m_panel->form().frame_Btn->click();
+    QTRY_COMPARE(linesAfterConnect(fake),
+                 (QStringList{"M5S0", "$J=G90X10.00Y50.00F3000", "$J=G90X60.00Y50.00F3000",
+                              "$J=G90X60.00Y80.00F3000", "$J=G90X10.00Y80.00F3000",
+                              "$J=G90X10.00Y50.00F3000"}));
+}
+
+void TestMachineController::outputBoundsSkipsHiddenLayers()
+{
+    QPainterPath square;
+    square.addRect(0, 0, 10, 10);
+    Jk_tu_yuan a(square, 1);
+    a.setPos(5, -50);
+    Jk_tu_yuan b(square, 1);
+    b.setPos(100, -20);
+    b.layer_id = 3;
+    LayerList layers;
+    layers.append(new TuCeng(0, false));
+    auto *off = new TuCeng(3, false);
+    off->shuchu = false;
+    layers.append(off);
+    QCOMPARE(outputBounds({&a, &b}, layers), QRectF(5, -50, 10, 10));
+    off->shuchu = true;
+    QCOMPARE(outputBounds({&a, &b}, layers), QRectF(5, -50, 105, 40));
+    QVERIFY(outputBounds({}, layers).isNull());
+}
+
+void TestMachineController::watcherFillsPortList()
+{
+    GrblFake fake;
+    QVERIFY(fake.start());
+    const QString port = fake.portName();
+    m_controller->startPortWatcher([port] { return QStringList{port}; });
+    // Not linked: the watcher probes the port and selects it.
+    QTRY_COMPARE(m_panel->form().port_Box->count(), 1);
+    QTRY_COMPARE(m_panel->form().port_Box->currentText(), port);
+    QTRY_COMPARE(fake.lines(), QStringList{"AT"});
+}
+
+void TestMachineController::wifiCommands()
+{
+    programState().connectionMode = lumitra::WifiLink;
+    QSignalSpy urls(m_controller.get(), &MachineController::wifiCommand);
+    m_panel->form().jog1_Btn->click();
+    QCOMPARE(m_messages.size(), 1);
+    QCOMPARE(m_messages.first().message, QString("IP不能为空!"));
+    m_controller->setWifiAddress("192.168.0.1");
+    m_panel->form().home_Btn->click();
+    m_panel->form().jog1_Btn->click();
+    QCOMPARE(urls.count(), 2);
+    QCOMPARE(urls.at(0).first().toString(),
+             QString("http://192.168.0.1/command?commandText=$H&PAGEID=0"));
+    QCOMPARE(
+        urls.at(1).first().toString(),
+        QString("http://192.168.0.1/command?commandText=$J=G91%20G21%20F3000%20X0Y10&PAGEID=0"));
+}
+
+QTEST_MAIN(TestMachineController)
+#include "tst_machine_controller.moc"
