@@ -10,6 +10,7 @@
 #include <QGraphicsView>
 #include <QKeyEvent>
 #include <QLineF>
+#include <QTimer>
 #include <QUndoStack>
 #include <algorithm>
 #include <cmath>
@@ -81,7 +82,17 @@ Jk_tu_yuan *pickItem(Jk_chang_jing *scene, const QPointF &p)
     return nullptr;
 }
 
-SelectionTool::SelectionTool(QObject *parent) : QObject(parent) {}
+SelectionTool::SelectionTool(QObject *parent) : QObject(parent), m_refreshTimer(new QTimer(this))
+{
+    m_refreshTimer->setSingleShot(true);
+    m_refreshTimer->setInterval(0);
+    connect(m_refreshTimer, &QTimer::timeout, this, &SelectionTool::refresh);
+}
+
+void SelectionTool::scheduleRefresh()
+{
+    m_refreshTimer->start();
+}
 
 SelectionTool::~SelectionTool()
 {
@@ -99,8 +110,8 @@ void SelectionTool::activate(Jk_chang_jing *scene)
     scene->setTool(this);
     m_frame = new SelectionFrame;
     scene->addItem(m_frame);
-    connect(scene, &QGraphicsScene::selectionChanged, this, &SelectionTool::refresh);
-    connect(scene, &Jk_chang_jing::designChanged, this, &SelectionTool::refresh);
+    connect(scene, &QGraphicsScene::selectionChanged, this, &SelectionTool::scheduleRefresh);
+    connect(scene, &Jk_chang_jing::designChanged, this, &SelectionTool::scheduleRefresh);
     // The scene deletes the frame with itself.
     connect(scene, &QObject::destroyed, this, [this] {
         m_frame = nullptr;
@@ -156,6 +167,7 @@ void SelectionTool::showFrame(const QRectF &bounds, int count)
 
 void SelectionTool::refresh()
 {
+    m_refreshTimer->stop();
     if (!m_scene || m_drag == Drag::Move || m_drag == Drag::Scale || m_drag == Drag::Rotate)
         return;
     const QList<Jk_tu_yuan *> items = selection();
@@ -166,6 +178,8 @@ bool SelectionTool::mousePress(Jk_chang_jing *scene, QGraphicsSceneMouseEvent *e
 {
     if (scene != m_scene || event->button() != Qt::LeftButton)
         return false;
+    if (m_refreshTimer->isActive())
+        refresh(); // the frame must be current before its handles are looked up
     const QPointF p = event->scenePos();
     const bool toggle = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
     const FrameHandle h = m_frame && m_frame->isVisible()

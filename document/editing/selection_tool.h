@@ -23,6 +23,8 @@
 #include <QPointer>
 #include <QVector>
 
+class QTimer;
+
 class Jk_chang_jing;
 class Jk_tu_yuan;
 
@@ -57,6 +59,9 @@ public:
 public slots:
     // Puts the frame around the current selection and announces its bounds.
     void refresh();
+    // The same once control returns to the event loop: selecting thousands of
+    // items one by one (a rubber band) then costs one refresh, not thousands.
+    void scheduleRefresh();
 
 signals:
     // The selection's outline bounds in scene mm and its item count (0: none),
@@ -75,6 +80,7 @@ private:
 
     QPointer<Jk_chang_jing> m_scene;
     SelectionFrame *m_frame = nullptr;
+    QTimer *m_refreshTimer = nullptr;
     Drag m_drag = Drag::None;
     FrameHandle m_handle = FrameHandle::None;
     QPointF m_pressPos;

@@ -13,6 +13,7 @@ target_sources(lumitra_document PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/arrays.cpp ${CMAKE_CURRENT_LIST_DIR}/arrays.h
   ${CMAKE_CURRENT_LIST_DIR}/item_clipboard.cpp ${CMAKE_CURRENT_LIST_DIR}/item_clipboard.h
   ${CMAKE_CURRENT_LIST_DIR}/text_outline.cpp ${CMAKE_CURRENT_LIST_DIR}/text_outline.h
+  ${CMAKE_CURRENT_LIST_DIR}/placement.cpp ${CMAKE_CURRENT_LIST_DIR}/placement.h
   ${CMAKE_CURRENT_LIST_DIR}/frame_geometry.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_geometry.h
   ${CMAKE_CURRENT_LIST_DIR}/selection_frame.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_frame.h
   ${CMAKE_CURRENT_LIST_DIR}/selection_tool.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_tool.h

@@ -113,13 +113,18 @@ void TestSelectionTool::frameFollowsTheSelection()
     QVERIFY(!b.tool.frame()->isVisible());
     b.left->setSelected(true);
     b.round->setSelected(true);
+    QVERIFY(!b.tool.frame()->isVisible()); // brought up to date once, by the event loop
+    QCoreApplication::processEvents();
     QVERIFY(b.tool.frame()->isVisible());
     QVERIFY(sameRect(b.tool.frame()->frame(), QRectF(50, -120, 120, 60)));
     QVERIFY(!spy.isEmpty());
     QCOMPARE(spy.last().at(1).toInt(), 2);
     QVERIFY(sameRect(spy.last().at(0).toRectF(), QRectF(50, -120, 120, 60)));
+    const int emitted = spy.size();
     b.scene.clearSelection();
+    QCoreApplication::processEvents();
     QVERIFY(!b.tool.frame()->isVisible());
+    QCOMPARE(spy.size(), emitted + 1);
     QCOMPARE(spy.last().at(1).toInt(), 0);
     // The frame is no design item.
     QCOMPARE(b.items().size(), 3);
@@ -141,6 +146,7 @@ void TestSelectionTool::dragMovesTheSelectionInOneStep()
     QVERIFY(sameRect(b.tool.frame()->frame(), QRectF(60, -100, 70, 10)));
     b.scene.undoStack()->undo();
     QVERIFY(samePaths(scenePaths({b.left, b.right, b.round}), start));
+    QCoreApplication::processEvents();
     QVERIFY(sameRect(b.tool.frame()->frame(), QRectF(50, -120, 70, 10)));
     // A drag inside the frame, off any outline, moves too.
     b.drag(QPointF(85, -115), QPointF(85, -125));
@@ -262,7 +268,7 @@ void TestSelectionTool::toolLeavesOneSceneForAnother()
     QVERIFY(b.scene.tool() == nullptr);
     QVERIFY(other.tool() == &b.tool);
     b.tool.activate(&b.scene);
-    QVERIFY(b.tool.frame()->isVisible()); // the selection there is shown again
+    QVERIFY(b.tool.frame()->isVisible()); // the selection there is shown at once
     QVERIFY(other.tool() == nullptr);
 }
 
