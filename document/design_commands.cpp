@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QSet>
+#include <algorithm>
 
 namespace {
 // Deletes the items that no scene owns.
@@ -68,9 +69,10 @@ void AddItemsCommand::apply()
 
 void AddItemsCommand::revert()
 {
-    for (const QPointer<Jk_tu_yuan> &item : m_items)
-        if (item && item->scene() == scene())
-            scene()->removeItem(item);
+    // Topmost first: the scene drops its last item without searching.
+    for (auto it = m_items.crbegin(); it != m_items.crend(); ++it)
+        if (*it && (*it)->scene() == scene())
+            scene()->removeItem(*it);
 }
 
 DeleteItemsCommand::DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> &items)
@@ -81,10 +83,11 @@ DeleteItemsCommand::DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_y
     QPointer<Jk_tu_yuan> above;
     for (Jk_tu_yuan *item : scene->designItems()) {
         if (doomed.contains(item))
-            m_entries.prepend(Entry {item, above});
+            m_entries.append(Entry {item, above});
         else
             above = item;
     }
+    std::reverse(m_entries.begin(), m_entries.end()); // bottom first
 }
 
 DeleteItemsCommand::~DeleteItemsCommand()
@@ -96,9 +99,10 @@ DeleteItemsCommand::~DeleteItemsCommand()
 
 void DeleteItemsCommand::apply()
 {
-    for (const Entry &e : m_entries)
-        if (e.item && e.item->scene() == scene())
-            scene()->removeItem(e.item);
+    // Topmost first: the scene drops its last item without searching.
+    for (auto it = m_entries.crbegin(); it != m_entries.crend(); ++it)
+        if (it->item && it->item->scene() == scene())
+            scene()->removeItem(it->item);
 }
 
 void DeleteItemsCommand::revert()
