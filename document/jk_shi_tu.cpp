@@ -52,6 +52,7 @@ void Jk_shi_tu::zoomAbout(double factor, const QPoint &viewportPos)
 {
     if (!(factor > 0))
         return;
+    m_autoFit = false;
     const QPointF fixed = mapToScene(viewportPos);
     const double scale = qBound(kMinScale, zoom() * factor, kMaxScale);
     setTransform(QTransform::fromScale(scale, scale));
@@ -71,12 +72,14 @@ void Jk_shi_tu::fitWorkArea()
     const double scale = qBound(kMinScale, zoom(), kMaxScale);
     setTransform(QTransform::fromScale(scale, scale));
     centerOn(area.center());
+    m_autoFit = true;
     updateRulers();
     emit zoomChanged(scale);
 }
 
 void Jk_shi_tu::panBy(const QPoint &pixels)
 {
+    m_autoFit = false;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + pixels.x());
     verticalScrollBar()->setValue(verticalScrollBar()->value() + pixels.y());
 }
@@ -198,6 +201,8 @@ void Jk_shi_tu::resizeEvent(QResizeEvent *event)
 {
     QGraphicsView::resizeEvent(event);
     layoutRulers();
+    if (m_autoFit)
+        fitWorkArea();
 }
 
 void Jk_shi_tu::scrollContentsBy(int dx, int dy)

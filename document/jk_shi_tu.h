@@ -31,7 +31,8 @@ public:
     // Multiplies the zoom by `factor` (clamped to the limits) keeping the scene
     // point under `viewportPos` where it is.
     void zoomAbout(double factor, const QPoint &viewportPos);
-    // Shows the whole work area with a small margin.
+    // Shows the whole work area with a small margin. Until the user zooms or
+    // pans, the view fits the work area again whenever it is resized.
     void fitWorkArea();
     // Moves the view by a distance in screen pixels.
     void panBy(const QPoint &pixels);
@@ -70,6 +71,7 @@ private:
     RulerBar *m_topRuler = nullptr;
     RulerBar *m_leftRuler = nullptr;
     SelectRectItem *m_band = nullptr;
+    bool m_autoFit = true;
     bool m_panning = false;
     bool m_spaceHeld = false;
     QPoint m_lastPanPos;

@@ -65,6 +65,7 @@ private slots:
     void wheelZoomsByNotches();
     void fitShowsWholeWorkArea_data();
     void fitShowsWholeWorkArea();
+    void fitsUntilTheUserZooms();
     void middleDragPans();
     void spaceDragPans();
     void rubberBand_data();
@@ -220,6 +221,25 @@ void TestSceneView::fitShowsWholeWorkArea()
     // Centred.
     QVERIFY(qAbs(shown.center().x() - viewport.center().x()) <= 2);
     QVERIFY(qAbs(shown.center().y() - viewport.center().y()) <= 2);
+}
+
+void TestSceneView::fitsUntilTheUserZooms()
+{
+    Jk_chang_jing scene;
+    Jk_shi_tu view(&scene);
+    view.resize(300, 200);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const double small = view.zoom();
+    view.resize(900, 700); // the window grew: the work area follows
+    QTRY_VERIFY(view.zoom() > small * 2);
+    const QRect shown = view.mapFromScene(Jk_chang_jing::workAreaRect()).boundingRect();
+    QVERIFY(view.viewport()->rect().contains(shown));
+    view.zoomAbout(2, QPoint(10, 10));
+    const double zoomed = view.zoom();
+    view.resize(600, 500); // after the user's zoom the view stays as it is
+    QTest::qWait(20);
+    QCOMPARE(view.zoom(), zoomed);
 }
 
 void TestSceneView::middleDragPans()
