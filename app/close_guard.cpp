@@ -10,9 +10,11 @@ bool close_guard(QWidget *parent, bool unsaved, int itemCount)
 {
     if (!unsaved || itemCount <= 0)
         return true;
-    auto tr = [](const char *text) { return QCoreApplication::translate("Widget", text); };
-    return show_message(parent, MessageKind::Question, tr("取消"), tr("确定"),
-                        tr("创作未保存,是否立即退出"), tr("提示"))
+    return show_message(parent, MessageKind::Question,
+                        QCoreApplication::translate("Widget", "取消"),
+                        QCoreApplication::translate("Widget", "确定"),
+                        QCoreApplication::translate("Widget", "创作未保存,是否立即退出"),
+                        QCoreApplication::translate("Widget", "提示"))
            != 0;
 }
 

@@ -11,7 +11,6 @@ constexpr qint64 kMaxFileBytes = qint64(256) << 20;
 constexpr long long kMaxCount = 10000000;
 constexpr int kMaxLineLength = 1000; // the parser reads lines of up to 1023 characters
 
-QString tr(const char *text) { return QCoreApplication::translate("DxfImport", text); }
 
 // Group codes that announce how many values follow, per entity type.
 bool isCountCode(const QByteArray &entity, int code)
@@ -70,20 +69,20 @@ bool readDxfForParser(const QString &path, std::string *text, QString *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = tr("无法打开文件") + QStringLiteral(": ") + path;
+        *error = QCoreApplication::translate("DxfImport", "无法打开文件") + QStringLiteral(": ") + path;
         return false;
     }
     if (file.size() > kMaxFileBytes) {
-        *error = tr("DXF 文件过大");
+        *error = QCoreApplication::translate("DxfImport", "DXF 文件过大");
         return false;
     }
     const QByteArray data = file.readAll();
     if (data.trimmed().isEmpty()) {
-        *error = tr("DXF 文件为空");
+        *error = QCoreApplication::translate("DxfImport", "DXF 文件为空");
         return false;
     }
     auto damaged = [error]() {
-        *error = tr("DXF 文件已损坏");
+        *error = QCoreApplication::translate("DxfImport", "DXF 文件已损坏");
         return false;
     };
     if (data.contains('\0'))

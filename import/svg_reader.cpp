@@ -20,7 +20,6 @@ constexpr qint64 kMaxFileBytes = 256 << 20; // bytes
 constexpr double kMaxCoordinateMm = 1e6;    // one kilometre either way
 constexpr double kMinExtentMm = 1e-9;       // smaller shapes are points
 
-QString tr(const char *text) { return QCoreApplication::translate("SvgImport", text); }
 
 // The tag without a namespace prefix ("svg:path" reads as "path").
 QString localTag(const QDomElement &e)
@@ -49,7 +48,7 @@ bool precheck(const QByteArray &data, QString *error, bool *limitExceeded)
         const auto token = xml.readNext();
         if (token == QXmlStreamReader::StartElement) {
             if (++depth > kMaxDepth) {
-                *error = tr("SVG 文件嵌套层数过多");
+                *error = QCoreApplication::translate("SvgImport", "SVG 文件嵌套层数过多");
                 *limitExceeded = true;
                 return false;
             }
@@ -58,7 +57,7 @@ bool precheck(const QByteArray &data, QString *error, bool *limitExceeded)
         }
     }
     if (xml.hasError()) {
-        *error = tr("SVG 文件格式错误") + QStringLiteral(": ") + xml.errorString();
+        *error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误") + QStringLiteral(": ") + xml.errorString();
         return false;
     }
     return true;
@@ -194,7 +193,7 @@ SvgImportResult readSvgData(const QByteArray &data)
 {
     SvgImportResult result;
     if (data.trimmed().isEmpty()) {
-        result.error = tr("SVG 文件为空");
+        result.error = QCoreApplication::translate("SvgImport", "SVG 文件为空");
         return result;
     }
     if (!precheck(data, &result.error, &result.limitExceeded))
@@ -202,7 +201,7 @@ SvgImportResult readSvgData(const QByteArray &data)
     QDomDocument doc;
     QString message;
     if (!doc.setContent(data, &message)) {
-        result.error = tr("SVG 文件格式错误") + QStringLiteral(": ") + message;
+        result.error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误") + QStringLiteral(": ") + message;
         return result;
     }
     const QDomElement root = doc.documentElement();
@@ -210,7 +209,7 @@ SvgImportResult readSvgData(const QByteArray &data)
     collector.visitRootChildren();
     if (collector.full()) {
         result.paths.clear();
-        result.error = tr("SVG 文件图形数量过多");
+        result.error = QCoreApplication::translate("SvgImport", "SVG 文件图形数量过多");
         result.limitExceeded = true;
         return result;
     }
@@ -223,12 +222,12 @@ SvgImportResult readSvgFile(const QString &filePath)
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly)) {
         SvgImportResult result;
-        result.error = tr("无法打开文件") + QStringLiteral(": ") + filePath;
+        result.error = QCoreApplication::translate("SvgImport", "无法打开文件") + QStringLiteral(": ") + filePath;
         return result;
     }
     if (file.size() > kMaxFileBytes) {
         SvgImportResult result;
-        result.error = tr("SVG 文件过大");
+        result.error = QCoreApplication::translate("SvgImport", "SVG 文件过大");
         result.limitExceeded = true;
         return result;
     }
