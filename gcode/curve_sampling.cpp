@@ -54,7 +54,7 @@ double buildTable(const Cubic &c, int n, Table &cumulative)
         const double u = double(i) / n;
         const double x = c.x(u);
         const double y = c.y(u);
-        total += std::hypot(x - px, y - py);
+        total += std::sqrt((x - px) * (x - px) + (y - py) * (y - py));
         cumulative[i] = total;
         px = x;
         py = y;

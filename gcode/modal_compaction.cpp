@@ -1,80 +1,121 @@
 #include "modal_compaction.h"
 
+#include <cstdint>
 #include <cstring>
 
 namespace lumitra {
 
 namespace {
 
-// Slot of a modal letter in the remembered values, or -1 for any other letter.
-inline int modalSlot(char letter)
-{
-    switch (letter) {
-    case 'G':
-        return 0;
-    case 'X':
-        return 1;
-    case 'Y':
-        return 2;
-    case 'Z':
-        return 3;
-    case 'S':
-        return 4;
-    case 'F':
-        return 5;
-    default:
-        return -1;
-    }
-}
+// Values up to this many characters are compared and copied as two 64-bit
+// words; longer ones (never written by the generator) byte by byte.
+constexpr int kPackedLength = 16;
+// The output may be written up to this far past its end before it is cut.
+constexpr int kSlack = kPackedLength;
+
+// Slot of each capital letter in the remembered values: G X Y Z S F, or -1.
+constexpr signed char kSlots[26] = {-1, -1, -1, -1, -1, 5, 0,  -1, -1, -1, -1, -1, -1,
+                                    -1, -1, -1, -1, -1, 4, -1, -1, -1, -1, 1,  2,  3};
 
 inline bool isNumberChar(char c)
 {
-    return (c >= '0' && c <= '9') || c == '.';
+    return uchar(c - '0') <= 9 || c == '.';
 }
 
-struct RememberedValue
+inline uint64_t load64(const char *p)
 {
-    const char *text = nullptr; // points into the input, valid for one call
-    int length = -1;            // -1: nothing remembered yet
+    uint64_t v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
+}
+
+// The first `n` (0..8) bytes of a word, the rest zero.
+inline uint64_t keepBytes(uint64_t v, int n)
+{
+    return n >= 8 ? v : (n <= 0 ? 0 : v & ((uint64_t(1) << (8 * n)) - 1));
+}
+
+// A word's value text: where it lies in the input, and its first 16
+// characters packed into two words (zero beyond the end).
+struct Value
+{
+    const char *text = nullptr;
+    int length = -1; // -1: nothing remembered yet
+    uint64_t low = 0;
+    uint64_t high = 0;
+
+    bool operator==(const Value &o) const
+    {
+        if (length != o.length || low != o.low || high != o.high)
+            return false;
+        for (int i = kPackedLength; i < length; ++i) {
+            if (text[i] != o.text[i])
+                return false;
+        }
+        return true;
+    }
 };
 
-// Rebuilds one G line [begin, end) into `out`; returns the new write position.
-char *rebuildLine(const char *begin, const char *end, RememberedValue *last, char *out)
+// Reads the value of a word starting at `p` (an optional "-", then digits and
+// points). Returns its end; `value.length` is 0 when there is no number.
+inline const char *readValue(const char *p, const char *end, Value &value)
 {
-    const char *p = begin;
-    while (p < end) {
-        const char letter = *p;
-        if (letter < 'A' || letter > 'Z') {
+    const char *digits = p;
+    if (digits < end && *digits == '-')
+        ++digits;
+    const char *q = digits;
+    while (q < end && isNumberChar(*q))
+        ++q;
+    value.text = p;
+    value.length = q == digits ? 0 : int(q - p);
+    if (end - p >= kPackedLength) {
+        value.low = keepBytes(load64(p), value.length);
+        value.high = keepBytes(load64(p + 8), value.length - 8);
+    } else {
+        char padded[kPackedLength] = {};
+        std::memcpy(padded, p, size_t(qMin(value.length, kPackedLength)));
+        value.low = load64(padded);
+        value.high = load64(padded + 8);
+    }
+    return q;
+}
+
+inline char *writeWord(char *out, char letter, const Value &value)
+{
+    *out++ = letter;
+    if (value.length <= kPackedLength) {
+        std::memcpy(out, &value.low, 8); // fixed sizes: inlined; the slack absorbs the excess
+        std::memcpy(out + 8, &value.high, 8);
+    } else {
+        std::memcpy(out, value.text, size_t(value.length));
+    }
+    return out + value.length;
+}
+
+// Rebuilds the G line at `p` up to its line break or `end` into `out`.
+// Returns the end of the line; `out` is advanced.
+const char *rebuildLine(const char *p, const char *end, Value *last, char *&out)
+{
+    Value value;
+    while (p < end && *p != '\n') {
+        const uchar letter = uchar(*p - 'A');
+        if (letter >= 26) {
             ++p;
             continue;
         }
-        const char *valueBegin = p + 1;
-        const char *digits = valueBegin;
-        if (digits < end && *digits == '-')
-            ++digits;
-        const char *valueEnd = digits;
-        while (valueEnd < end && isNumberChar(*valueEnd))
-            ++valueEnd;
-        if (valueEnd == digits) { // no number after the letter: not a word
+        const char *valueEnd = readValue(p + 1, end, value);
+        if (value.length == 0) { // no number after the letter: not a word
             ++p;
             continue;
         }
-        const int slot = modalSlot(letter);
-        if (slot >= 0) {
-            const int length = int(valueEnd - valueBegin);
-            RememberedValue &value = last[slot];
-            if (value.length != length
-                || std::memcmp(value.text, valueBegin, size_t(length)) != 0) {
-                value.text = valueBegin;
-                value.length = length;
-                *out++ = letter;
-                std::memcpy(out, valueBegin, size_t(length));
-                out += length;
-            }
+        const int slot = kSlots[letter];
+        if (slot >= 0 && !(value == last[slot])) {
+            last[slot] = value;
+            out = writeWord(out, char('A' + letter), value);
         }
         p = valueEnd;
     }
-    return out;
+    return p;
 }
 
 } // namespace
@@ -82,25 +123,31 @@ char *rebuildLine(const char *begin, const char *end, RememberedValue *last, cha
 void appendCompacted(const char *text, int size, QByteArray &out)
 {
     const int start = out.size();
-    out.resize(start + size + 1); // a rebuilt piece is never longer than this
+    // A rebuilt piece is never longer than its input plus a final line break.
+    out.resize(start + size + 1 + kSlack);
     char *write = out.data() + start;
-    RememberedValue last[6];
+    Value last[6];
 
     const char *p = text;
     const char *end = text + size;
     while (p < end) {
-        const char *lineEnd = static_cast<const char *>(std::memchr(p, '\n', size_t(end - p)));
-        if (!lineEnd)
-            lineEnd = end;
-        if (lineEnd != p) {
-            if (*p == 'G') {
-                write = rebuildLine(p, lineEnd, last, write);
-            } else {
-                std::memcpy(write, p, size_t(lineEnd - p));
-                write += lineEnd - p;
-            }
-            *write++ = '\n';
+        if (*p == '\n') { // an empty line is dropped
+            ++p;
+            continue;
         }
+        const char *lineEnd;
+        if (*p == 'G') {
+            lineEnd = rebuildLine(p, end, last, write);
+        } else {
+            lineEnd = static_cast<const char *>(std::memchr(p, '\n', size_t(end - p)));
+            if (!lineEnd)
+                lineEnd = end;
+            std::memcpy(write, p, size_t(lineEnd - p));
+            write += lineEnd - p;
+        }
+        *write++ = '\n';
+        if (lineEnd >= end)
+            break;
         p = lineEnd + 1;
     }
     out.resize(int(write - out.constData()));

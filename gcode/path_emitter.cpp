@@ -1,81 +1,153 @@
 #include "path_emitter.h"
 
 #include "curve_sampling.h"
-#include "gcode_number.h"
 #include "job_output.h"
 #include "tu_ceng.h"
 
 #include <QPainterPath>
+#include <cmath>
 #include <cstring>
 
 namespace lumitra {
 
 namespace {
 
-// Room for the longest line: prefix, two numbers, "Y" and the words.
-constexpr size_t kLineRoom = 8 + 2 * kMaxFixedChars;
-
-QByteArray wordsFor(double power, double speed)
-{
-    return 'S' + fixedText(power, 2) + 'F' + fixedText(speed, 2) + '\n';
-}
+// Room for the longest line: "G1", four words with their letters, newline;
+// a short number is copied as two whole machine words.
+constexpr size_t kLineRoom = 8 + 4 * (kMaxFixedChars + 1) + 16;
 
 } // namespace
+
+void PathEmitter::NumberText::set(double value)
+{
+    wide = !packFixed2(value, packed);
+    if (wide)
+        wideLength = int(writeFixed(text, value, 2) - text);
+}
+
+Q_ALWAYS_INLINE bool PathEmitter::KeptValue::keep(const NumberText &value)
+{
+    if (valid && !value.wide && packed.length == value.packed.length
+        && packed.low == value.packed.low && packed.high == value.packed.high)
+        return false;
+    packed = value.packed;
+    valid = !value.wide;
+    return true;
+}
+
+Q_ALWAYS_INLINE char *PathEmitter::writeWord(char *out, char letter, const NumberText &value)
+{
+    *out++ = letter;
+    if (value.wide) {
+        std::memcpy(out, value.text, size_t(value.wideLength));
+        return out + value.wideLength;
+    }
+    std::memcpy(out, &value.packed.low, 8); // whole words; the line room absorbs the rest
+    std::memcpy(out + 8, &value.packed.high, 8);
+    return out + value.packed.length;
+}
 
 PathEmitter::PathEmitter(JobOutput &output, const RotarySettings &rotary,
                          const std::atomic_bool *cancel)
     : m_output(output)
     , m_cancel(cancel)
     , m_pathBump(rotaryPathBump(rotary))
-    , m_bareEnd("\n")
 {
     m_buffer.resize(2 * kFlushThreshold);
+    m_xCache.resize(size_t(1) << kXCacheBits);
     setLayer(TuCeng());
 }
 
 void PathEmitter::setLayer(const TuCeng &layer)
 {
     const double power = layer.gonglv * 10.0;
-    const double speed = layer.sudu;
-    m_fullWords = wordsFor(power, speed);
-    m_coastWords = wordsFor(0.0, speed);
+    m_power.set(power);
+    m_zeroPower.set(0.0);
     for (int grey = 0; grey < 256; ++grey)
-        m_greyWords[grey] = wordsFor(power * (255 - grey) / 255, speed);
+        m_greyPower[grey].set(power * (255 - grey) / 255);
+    m_feed.set(layer.sudu);
 }
 
-void PathEmitter::writeLine(const char *prefix, double x, double y, const QByteArray &suffix)
+char *PathEmitter::reserve(size_t room)
 {
-    const size_t room = kLineRoom + size_t(suffix.size());
     if (m_used + room > m_buffer.size())
         m_buffer.resize(2 * m_buffer.size() + room);
-    char *p = m_buffer.data() + m_used;
-    std::memcpy(p, prefix, 3);
-    p = writeFixed(p + 3, x, 2);
-    *p++ = 'Y';
+    return m_buffer.data() + m_used;
+}
+
+Q_ALWAYS_INLINE void PathEmitter::formatX(double x, NumberText &out)
+{
+    quint64 bits;
+    std::memcpy(&bits, &x, sizeof bits);
+    CachedX &slot = m_xCache[size_t((bits * 0x9E3779B97F4A7C15ull) >> (64 - kXCacheBits))];
+    // Compared by bits: 0.0 and -0.0 are the same text anyway, NaN is never cached.
+    quint64 slotBits;
+    std::memcpy(&slotBits, &slot.value, sizeof slotBits);
+    if (slotBits == bits) {
+        out.wide = false;
+        out.packed = slot.text;
+        return;
+    }
+    out.set(x);
+    if (!out.wide) {
+        slot.value = x;
+        slot.text = out.packed;
+    }
+}
+
+void PathEmitter::writeLine(char motion, double x, double y, const NumberText *power)
+{
+    char *start = reserve(kLineRoom);
+    start[0] = 'G';
+    start[1] = motion;
+    char *p = start + 2;
+
+    NumberText xText;
+    formatX(x, xText);
+    if (m_keptX.keep(xText))
+        p = writeWord(p, 'X', xText);
     if (!m_haveCachedY || y != m_cachedY) {
         m_cachedY = y;
         m_haveCachedY = true;
-        m_cachedYLength = int(writeFixed(m_cachedYText, -y, 2) - m_cachedYText);
+        m_yText.set(-y);
     }
-    std::memcpy(p, m_cachedYText, size_t(m_cachedYLength));
-    p += m_cachedYLength;
-    std::memcpy(p, suffix.constData(), size_t(suffix.size()));
-    m_used = size_t(p + suffix.size() - m_buffer.data());
+    if (m_keptY.keep(m_yText))
+        p = writeWord(p, 'Y', m_yText);
+    // Full line: "G?X" x "Y" y ["S" s "F" f] "\n".
+    m_fullLength += size_t(3 + xText.length() + 1 + m_yText.length() + 1);
+    if (power) {
+        if (m_keptS.keep(*power))
+            p = writeWord(p, 'S', *power);
+        if (m_keptF.keep(m_feed))
+            p = writeWord(p, 'F', m_feed);
+        m_fullLength += size_t(2 + power->length() + m_feed.length());
+    }
+    *p++ = '\n';
+    m_used += size_t(p - start);
+}
+
+void PathEmitter::appendRaw(const QByteArray &text)
+{
+    std::memcpy(reserve(size_t(text.size())), text.constData(), size_t(text.size()));
+    m_used += size_t(text.size());
+    m_fullLength += size_t(text.size());
 }
 
 void PathEmitter::elementDone()
 {
     ++m_index;
-    if (m_used > size_t(kFlushThreshold))
+    if (m_fullLength > size_t(kFlushThreshold))
         flush();
 }
 
 void PathEmitter::flush()
 {
-    if (m_used == 0)
-        return;
-    m_output.writePiece(m_buffer.data(), int(m_used));
+    if (m_used > 0)
+        m_output.writePiece(m_buffer.data(), int(m_used));
     m_used = 0;
+    m_fullLength = 0;
+    // The compaction starts afresh with every piece.
+    m_keptX.valid = m_keptY.valid = m_keptS.valid = m_keptF.valid = false;
 }
 
 void PathEmitter::beginPath()
@@ -92,13 +164,9 @@ void PathEmitter::travel(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine("G0X", x, y, m_fullWords);
-    if (m_index == 0 && !m_pathBump.isEmpty()) {
-        if (m_used + size_t(m_pathBump.size()) > m_buffer.size())
-            m_buffer.resize(2 * m_buffer.size() + size_t(m_pathBump.size()));
-        std::memcpy(m_buffer.data() + m_used, m_pathBump.constData(), size_t(m_pathBump.size()));
-        m_used += size_t(m_pathBump.size());
-    }
+    writeLine('0', x, y, &m_power);
+    if (m_index == 0 && !m_pathBump.isEmpty())
+        appendRaw(m_pathBump);
     elementDone();
 }
 
@@ -106,7 +174,7 @@ void PathEmitter::burn(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine("G1X", x, y, m_fullWords);
+    writeLine('1', x, y, &m_power);
     elementDone();
 }
 
@@ -114,7 +182,7 @@ void PathEmitter::coast(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine("G1X", x, y, m_coastWords);
+    writeLine('1', x, y, &m_zeroPower);
     elementDone();
 }
 
@@ -122,7 +190,7 @@ void PathEmitter::burnGrey(double x, double y, int grey)
 {
     if (cancelled())
         return;
-    writeLine("G1X", x, y, m_greyWords[qBound(0, grey, 255)]);
+    writeLine('1', x, y, &m_greyPower[qBound(0, grey, 255)]);
     elementDone();
 }
 
@@ -148,7 +216,7 @@ void PathEmitter::emitPath(const QPainterPath &path)
             m_samples.resize(0);
             sampleCubicByLength(start, e, control, end, kCurveSampleStep, m_samples);
             for (const QPointF &s : qAsConst(m_samples))
-                writeLine("G1X", s.x(), s.y(), m_bareEnd);
+                writeLine('1', s.x(), s.y(), nullptr);
             i += 2;
             elementDone();
             break;

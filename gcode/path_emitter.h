@@ -4,15 +4,23 @@
 // two decimals; S is the layer's power times 10 (S800.00 for 80 %), F its speed
 // in mm/min. Moves are written "G0X..Y..S..F..", burns "G1X..Y..S..F..",
 // coasts (laser off at feed speed) "G1X..Y..S0.00F..", curve samples
-// "G1X..Y.." alone. Lines collect in a buffer that is flushed to the job's
-// output (compaction, rotary rewrite, file) whenever it passes 30000
-// characters after an element, and at the end of every path.
+// "G1X..Y.." alone. The lines of a path are flushed to the job's output
+// (compaction, rotary rewrite, file) whenever they pass 30000 characters after
+// an element, and at the end of every path.
+//
+// The buffer does not hold those lines word for word: a X, Y, S or F word whose
+// text equals the last one of its letter kept since the last flush is left out
+// as it is written, because the modal compaction would drop it anyway. Lines
+// keep their G word, and the 30000-character count is kept on the full lines,
+// so the compacted job is exactly that of the full text; it is only cheaper to
+// build and to scan.
 //
 // A path is either a painter path given whole to emitPath, or a stream of
 // sink calls between beginPath and endPath. Once the cancel flag is set every
 // further element is ignored. Single thread.
 #pragma once
 
+#include "gcode_number.h"
 #include "rotary.h"
 #include "toolpath_sink.h"
 
@@ -20,6 +28,7 @@
 #include <QPointF>
 #include <QVector>
 #include <atomic>
+#include <cmath>
 #include <vector>
 
 class QPainterPath;
@@ -32,7 +41,7 @@ class JobOutput;
 class PathEmitter final : public ToolpathSink
 {
 public:
-    // Buffer size in characters above which the buffer is flushed.
+    // Full-text size in characters above which the lines are flushed.
     static constexpr int kFlushThreshold = 30000;
 
     // `cancel` may be null (never cancelled). `output` must outlive the emitter.
@@ -59,24 +68,61 @@ public:
     bool cancelled() const { return m_cancel && m_cancel->load(std::memory_order_relaxed); }
 
 private:
-    void writeLine(const char *prefix, double x, double y, const QByteArray &suffix);
+    // A word's number. Short texts (all but absurd coordinates) are held as
+    // two machine words, compared and copied as such; a wide text is written
+    // as it is and never taken as unchanged (the compaction still drops it if
+    // it is).
+    struct NumberText
+    {
+        PackedNumber packed;
+        bool wide = false;
+        char text[kMaxFixedChars]; // the wide text
+        int wideLength = 0;
+        int length() const { return wide ? wideLength : packed.length; }
+        void set(double value);
+    };
+    // The last value kept for one letter in the current piece.
+    struct KeptValue
+    {
+        PackedNumber packed;
+        bool valid = false;
+        // True, and remembered, when `value` must be written.
+        bool keep(const NumberText &value);
+    };
+
+    // Recently formatted x values: raster lines cross the same pixel borders
+    // again and again.
+    struct CachedX
+    {
+        double value = std::nan(""); // never equal: an empty slot
+        PackedNumber text;
+    };
+    static constexpr int kXCacheBits = 12;
+
+    void formatX(double x, NumberText &out);
+    void writeLine(char motion, double x, double y, const NumberText *power);
+    static char *writeWord(char *out, char letter, const NumberText &value);
+    void appendRaw(const QByteArray &text);
+    char *reserve(size_t room);
     void elementDone();
     void flush();
 
     JobOutput &m_output;
     const std::atomic_bool *m_cancel;
     QByteArray m_pathBump;       // after the first move of a path (rotary on axis X)
-    QByteArray m_fullWords;      // "S<power>F<speed>\n"
-    QByteArray m_coastWords;     // "S0.00F<speed>\n"
-    QByteArray m_greyWords[256]; // "S<scaled power>F<speed>\n" by grey level
-    QByteArray m_bareEnd;        // "\n"
+    NumberText m_power;          // the layer's power (S)
+    NumberText m_zeroPower;      // S for coasting
+    NumberText m_greyPower[256]; // S scaled by grey level
+    NumberText m_feed;           // the layer's speed (F)
     std::vector<char> m_buffer;
     size_t m_used = 0;
-    int m_index = 0;        // element index within the current path
-    double m_cachedY = 0.0; // last y written and its text
+    size_t m_fullLength = 0;                      // characters of the full lines in the buffer
+    int m_index = 0;                              // element index within the current path
+    KeptValue m_keptX, m_keptY, m_keptS, m_keptF; // last kept in the current piece
+    double m_cachedY = 0.0;                       // last y formatted and its text
     bool m_haveCachedY = false;
-    char m_cachedYText[40];
-    int m_cachedYLength = 0;
+    NumberText m_yText;
+    std::vector<CachedX> m_xCache;
     QVector<QPointF> m_samples; // reused for curve samples
 };
 

@@ -58,11 +58,11 @@ struct AxisStepper
 };
 
 // Splits the scan line p(x) = (ax + bx x, ay + by x), x in [lo, hi), into runs
-// of equal level.
-void collectRuns(const LevelMap &map, double ax, double bx, double ay, double by, double lo,
-                 double hi, std::vector<Run> &runs)
+// of equal level. `runs` has room for a run per pixel crossed; returns the count.
+int collectRuns(const LevelMap &map, double ax, double bx, double ay, double by, double lo,
+                double hi, std::vector<Run> &runs)
 {
-    runs.clear();
+    int count = 0;
     AxisStepper sx(ax, bx, lo, map.width);
     AxisStepper sy(ay, by, lo, map.height);
     unsigned char level = map.at(sx.index, sy.index);
@@ -88,13 +88,14 @@ void collectRuns(const LevelMap &map, double ax, double bx, double ay, double by
         const unsigned char now = map.at(sx.index, sy.index);
         if (now != level) {
             if (border - runStart > kMinRunLength)
-                runs.push_back({runStart, border, level});
+                runs[size_t(count++)] = {runStart, border, level};
             runStart = border;
             level = now;
         }
     }
     if (hi - runStart > kMinRunLength)
-        runs.push_back({runStart, hi, level});
+        runs[size_t(count++)] = {runStart, hi, level};
+    return count;
 }
 
 class LineWriter
@@ -172,7 +173,12 @@ void engraveRaster(const LevelMap &map, const QTransform &pixelToScene,
     const long long lastLine = (long long)std::ceil(footprint.bottom() / spacing - 0.5) - 1;
 
     LineWriter writer(settings, sink);
-    std::vector<Run> runs;
+    std::vector<Run> runs(size_t(map.width) + size_t(map.height) + 8);
+    // Without rotation or shear every line through one pixel row meets the
+    // same runs: keep them for the next line.
+    const bool rowsAlongLines = sceneToPixel.m12() == 0 && sceneToPixel.m21() == 0;
+    int cachedRow = -1;
+    int runCount = 0;
     int dir = 1;
     for (long long k = firstLine; k <= lastLine; ++k) {
         if (sink.stopRequested())
@@ -184,9 +190,12 @@ void engraveRaster(const LevelMap &map, const QTransform &pixelToScene,
         double hi = footprint.right() + 1;
         if (!clipToImage(ax, bx, map.width, lo, hi) || !clipToImage(ay, by, map.height, lo, hi))
             continue;
-        collectRuns(map, ax, bx, ay, by, lo, hi, runs);
+        const int row = rowsAlongLines ? int(std::floor(ay)) : -1;
+        if (row < 0 || row != cachedRow)
+            runCount = collectRuns(map, ax, bx, ay, by, lo, hi, runs);
+        cachedRow = row;
         int first = 0;
-        int last = int(runs.size()) - 1;
+        int last = runCount - 1;
         while (first <= last && runs[size_t(first)].level == LevelMap::kWhite)
             ++first;
         while (last >= first && runs[size_t(last)].level == LevelMap::kWhite)

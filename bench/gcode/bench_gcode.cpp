@@ -1,0 +1,189 @@
+// Generation speed and peak memory through the application's own generator.
+//
+//   bench_gcode            runs every case, each in a fresh process
+//   bench_gcode CASE [OUT] runs one case: fill, line, dither or dither-natural
+//
+// Cases: 5,000 random circles (radius 2-20 mm) over the 400 x 400 mm work area
+// in fill mode at 0.1 mm; 50,000 random circles in line mode; a 4000 x 4000
+// pixel photo in dither mode at 0.1 mm, fitted to the work area (the image
+// mode is part of the time); the same photo at its imported size, 1016 mm.
+// Each prints the seconds spent in the generator (wall clock, and the CPU time
+// of the process, which other work on the machine disturbs less), MB of G-code
+// per second and the process's peak resident memory (VmHWM).
+#include "jk_gcode.h"
+#include "jk_tu_yuan.h"
+#include "layer_list.h"
+#include "owned_items.h"
+#include "program_state.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QPainterPath>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QTransform>
+#include <cmath>
+#include <ctime>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr double kWorkArea = 400.0;
+
+QString peakMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return QStringLiteral("?");
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return QString::number(line.mid(6).trimmed().split(' ').first().toLongLong() / 1024.0,
+                                   'f', 1);
+    }
+    return QStringLiteral("?");
+}
+
+struct Design
+{
+    LayerList layers;
+    lumitra::OwnedItems items;
+};
+
+void randomCircles(Design &d, int count, int mode)
+{
+    auto *layer = new TuCeng(0, false);
+    layer->moshi = mode;
+    layer->jianju = 0.1;
+    d.layers.append(layer);
+    QRandomGenerator rng(1234);
+    for (int i = 0; i < count; ++i) {
+        const double r = 2 + rng.generateDouble() * 18;
+        const QPointF c(r + rng.generateDouble() * (kWorkArea - 2 * r),
+                        -r - rng.generateDouble() * (kWorkArea - 2 * r));
+        QPainterPath p;
+        p.addEllipse(c, r, r);
+        d.items.take(new Jk_tu_yuan(p, 1))->layer_id = 0;
+    }
+}
+
+// A photo-like grey picture: a soft face-like blob, gradients, waves and
+// grain, as a file loader hands it over (32-bit). Built from per-row and
+// per-column tables so that making it takes little of the run.
+QImage syntheticPhoto(int size)
+{
+    QImage img(size, size, QImage::Format_ARGB32);
+    QRandomGenerator rng(99);
+    const size_t n = size_t(size);
+    std::vector<double> waveU(n), blobU(n), sinU(n), waveV(n), blobV(n), cosV(n);
+    for (int i = 0; i < size; ++i) {
+        const double t = double(i) / size;
+        sinU[size_t(i)] = std::sin(t * 9);
+        cosV[size_t(i)] = std::cos(t * 7);
+        blobU[size_t(i)] = std::exp(-(t - 0.5) * (t - 0.5) * 12);
+        blobV[size_t(i)] = std::exp(-(t - 0.45) * (t - 0.45) * 12);
+        waveU[size_t(i)] = std::sin(t * 23);
+        waveV[size_t(i)] = std::cos(t * 23);
+    }
+    std::vector<int> grain(4096);
+    for (int &g : grain)
+        g = int(rng.bounded(30)) - 15;
+    for (int y = 0; y < size; ++y) {
+        QRgb *line = reinterpret_cast<QRgb *>(img.scanLine(y));
+        const double v = double(y) / size;
+        for (int x = 0; x < size; ++x) {
+            const double face = blobU[size_t(x)] * blobV[size_t(y)];
+            const double wave = waveU[size_t(x)] * waveV[size_t(y)];
+            const double g = 40 + 170 * v + 90 * face * sinU[size_t(x)] * cosV[size_t(y)]
+                             + 60 * wave * (1 - face) + grain[size_t((x * 7 + y * 13) % 4096)];
+            const int level = qBound(0, int(g), 255);
+            line[x] = qRgb(level, level, level);
+        }
+    }
+    return img;
+}
+
+// The photo on layer 0 in dither mode at 0.1 mm. Fitted to the work area (a
+// pixel of 0.1 mm, one scan line per pixel row) unless `natural`, where it
+// keeps the 0.254 mm pixels of an imported bitmap (1016 mm square, 2.54 scan
+// lines per pixel row).
+void photo(Design &d, bool natural)
+{
+    auto *layer = new TuCeng(0, true);
+    layer->moshi = DitherMode;
+    layer->jianju = 0.1;
+    d.layers.append(layer);
+    Jk_tu_yuan *item = d.items.take(new Jk_tu_yuan(syntheticPhoto(4000)));
+    item->layer_id = 0;
+    item->setPos(0, -kWorkArea);
+    if (!natural) {
+        const double fit = kWorkArea / (4000 * Jk_tu_yuan::kPixelMm);
+        item->setTransform(QTransform::fromScale(fit, fit));
+    }
+}
+
+int runCase(const QString &name, const QString &output)
+{
+    Design d;
+    if (name == QLatin1String("fill"))
+        randomCircles(d, 5000, FillMode);
+    else if (name == QLatin1String("line"))
+        randomCircles(d, 50000, LineMode);
+    else if (name == QLatin1String("dither"))
+        photo(d, false);
+    else if (name == QLatin1String("dither-natural"))
+        photo(d, true);
+    else
+        return 2;
+    Jk_gcode generator;
+    generator.setLayerList(&d.layers);
+    lumitra::RotarySettings noRotary;
+    generator.setRotarySettings(noRotary);
+    QElapsedTimer timer;
+    timer.start();
+    const std::clock_t cpuStart = std::clock();
+    if (!generator.kai_shi_zhuan_huan(d.items.items(), output)) {
+        QTextStream(stderr) << name << ": " << generator.lastError() << '\n';
+        return 1;
+    }
+    const double seconds = timer.nsecsElapsed() / 1e9;
+    const double cpuSeconds = double(std::clock() - cpuStart) / CLOCKS_PER_SEC;
+    const double megabytes = generator.lastJobSize() / 1e6;
+    QTextStream(stdout) << QStringLiteral(
+                               "%1: %2 s (%3 s CPU), %4 MB of G-code, %5 MB/s, peak memory %6 MB\n")
+                               .arg(name, -6)
+                               .arg(seconds, 0, 'f', 3)
+                               .arg(cpuSeconds, 0, 'f', 3)
+                               .arg(megabytes, 0, 'f', 1)
+                               .arg(megabytes / seconds, 0, 'f', 1)
+                               .arg(peakMemory());
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    qSetMessagePattern(QStringLiteral("%{if-critical}%{message}%{endif}"));
+    const QStringList args = app.arguments();
+    QTemporaryDir dir;
+    if (args.size() >= 2) {
+        const QString output = args.size() >= 3 ? args[2] : dir.filePath(QStringLiteral("job.nc"));
+        return runCase(args[1], output);
+    }
+    int failures = 0;
+    for (const QString &name : {QStringLiteral("fill"), QStringLiteral("line"),
+                                QStringLiteral("dither"), QStringLiteral("dither-natural")}) {
+        QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedChannels);
+        child.start(app.applicationFilePath(), {name, dir.filePath(name + QStringLiteral(".nc"))});
+        child.waitForFinished(-1);
+        failures += child.exitCode() != 0;
+    }
+    return failures;
+}
