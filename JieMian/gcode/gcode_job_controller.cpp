@@ -1,0 +1,92 @@
+#include "gcode_job_controller.h"
+
+#include "gun_zhou.h"
+#include "jk_gcode.h"
+#include "message_box.h"
+#include "program_state.h"
+#include "rotary.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+using namespace lumitra;
+
+namespace {
+
+QString chooseWithDialog(QWidget *parent, const QString &suggestion)
+{
+    return QFileDialog::getSaveFileName(parent, GcodeJobController::tr("保存G代码"), suggestion,
+                                        GcodeJobController::tr("G代码 (*.nc *.gcode)"));
+}
+
+} // namespace
+
+GcodeJobController::GcodeJobController(QWidget *dialogParent, QObject *parent)
+    : QObject(parent)
+    , m_parent(dialogParent)
+    , m_generator(new Jk_gcode(this))
+    , m_chooser(chooseWithDialog)
+{
+}
+
+void GcodeJobController::setLayerList(const LayerList *layers)
+{
+    m_generator->setLayerList(layers);
+}
+
+void GcodeJobController::setFileChooser(FileChooser chooser)
+{
+    m_chooser = chooser ? std::move(chooser) : FileChooser(chooseWithDialog);
+}
+
+bool GcodeJobController::saveGcode(const QList<Jk_tu_yuan *> &items)
+{
+    QString path = m_chooser(m_parent, m_lastFolder);
+    if (path.isEmpty())
+        return false;
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix != QLatin1String("nc") && suffix != QLatin1String("gcode"))
+        path += QStringLiteral(".nc");
+    m_lastFolder = QFileInfo(path).absolutePath();
+    return saveGcodeTo(items, path);
+}
+
+bool GcodeJobController::saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QString &path)
+{
+    programState().cancel = false;
+    if (!m_generator->kai_shi_zhuan_huan(items, path)) {
+        show_notice(m_parent, tr("保存失败!"));
+        return false;
+    }
+    emit saved(path);
+    return true;
+}
+
+bool GcodeJobController::prepareRun(const QList<Jk_tu_yuan *> &items)
+{
+    const RotarySettings rotary = loadRotarySettings();
+    if (rotary.rewrites()) {
+        const QString check = tr("请在滚轴界面检查相关参数再运行!");
+        if (!rotary.isUsable()) {
+            show_notice(m_parent, check);
+            return false;
+        }
+        if (!show_message(m_parent, MessageKind::Question, tr("取消"), tr("确定"), check,
+                          tr("提示")))
+            return false;
+    }
+    programState().cancel = false;
+    if (!m_generator->kai_shi_zhuan_huan(items, QString())) {
+        show_notice(m_parent, tr("生成G代码失败!"));
+        return false;
+    }
+    programState().jobFilePath = Jk_gcode::defaultJobPath();
+    emit runFileReady(programState().jobFilePath);
+    return true;
+}
+
+bool GcodeJobController::editRotary()
+{
+    Gun_Zhou dialog(m_parent);
+    return dialog.exec() == QDialog::Accepted;
+}
