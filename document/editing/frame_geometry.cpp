@@ -12,14 +12,15 @@ constexpr double kMinExtent = 0.1; // mm a scaled frame keeps at least
 bool movesX(FrameHandle h)
 {
     return h == FrameHandle::TopLeft || h == FrameHandle::TopRight || h == FrameHandle::Right
-        || h == FrameHandle::BottomRight || h == FrameHandle::BottomLeft || h == FrameHandle::Left;
+           || h == FrameHandle::BottomRight || h == FrameHandle::BottomLeft
+           || h == FrameHandle::Left;
 }
 
 bool movesY(FrameHandle h)
 {
     return h == FrameHandle::TopLeft || h == FrameHandle::Top || h == FrameHandle::TopRight
-        || h == FrameHandle::BottomRight || h == FrameHandle::Bottom
-        || h == FrameHandle::BottomLeft;
+           || h == FrameHandle::BottomRight || h == FrameHandle::Bottom
+           || h == FrameHandle::BottomLeft;
 }
 
 // Factor taking `from` (distance handle - anchor) to `to` along one axis.
@@ -66,10 +67,10 @@ QPointF handlePosition(const QRectF &frame, FrameHandle handle, double mmPerPixe
 FrameHandle handleAt(const QRectF &frame, const QPointF &p, double mmPerPixel)
 {
     const double reach = kHandlePixels * mmPerPixel;
-    static const FrameHandle order[]
-        = {FrameHandle::Rotate,      FrameHandle::TopLeft,    FrameHandle::TopRight,
-           FrameHandle::BottomRight, FrameHandle::BottomLeft, FrameHandle::Top,
-           FrameHandle::Right,       FrameHandle::Bottom,     FrameHandle::Left};
+    static const FrameHandle order[] = {
+        FrameHandle::Rotate,      FrameHandle::TopLeft,    FrameHandle::TopRight,
+        FrameHandle::BottomRight, FrameHandle::BottomLeft, FrameHandle::Top,
+        FrameHandle::Right,       FrameHandle::Bottom,     FrameHandle::Left};
     for (FrameHandle h : order) {
         const QPointF at = handlePosition(frame, h, mmPerPixel);
         if (std::abs(p.x() - at.x()) <= reach && std::abs(p.y() - at.y()) <= reach)

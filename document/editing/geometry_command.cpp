@@ -1,6 +1,5 @@
 #include "geometry_command.h"
 
-#include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "program_state.h"
 
@@ -92,14 +91,6 @@ void GeometryCommand::undo()
 void GeometryCommand::finished()
 {
     programState().unsaved = true;
-    // The design scene hears of it like of every other edit.
-    for (const QPointer<Jk_tu_yuan> &item : m_items) {
-        if (item && item->scene()) {
-            if (auto *scene = qobject_cast<Jk_chang_jing *>(item->scene()))
-                scene->notifyDesignChanged();
-            break;
-        }
-    }
 }
 
 bool GeometryCommand::mergeWith(const QUndoCommand *other)

@@ -1,8 +1,10 @@
 // Undoable geometry edits: move, nudge, scale, mirror, rotate, fit to a
 // rectangle, outline replacement. Each command remembers every item's geometry
 // before and after, so undo and redo always give back exactly the same state.
-// Every redo and undo sets the program-wide unsaved flag and tells the design
-// scene of the items that the design changed. GUI thread only.
+// Every redo and undo sets the program-wide unsaved flag. They do not raise the
+// scene's designChanged: items keep their layers, and what listens to it
+// rebuilds the layer list and repaints every item. Follow the undo stack's
+// indexChanged to hear of them. GUI thread only.
 #pragma once
 
 #include "item_geometry.h"

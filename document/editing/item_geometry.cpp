@@ -65,7 +65,7 @@ void transformItemsAbout(const QList<Jk_tu_yuan *> &items, const QTransform &lin
                          const QPointF &centre)
 {
     const QTransform about = QTransform::fromTranslate(-centre.x(), -centre.y()) * linear
-        * QTransform::fromTranslate(centre.x(), centre.y());
+                             * QTransform::fromTranslate(centre.x(), centre.y());
     for (Jk_tu_yuan *item : items) {
         const QTransform t = item->sceneTransform() * about;
         item->setTransform(QTransform(t.m11(), t.m12(), t.m21(), t.m22(), 0, 0));

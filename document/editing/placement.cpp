@@ -39,8 +39,8 @@ void placeItems(const QList<Jk_tu_yuan *> &items, const Placement &p)
     QRectF target = sceneRectFromMachine(p.machineRect);
     if (!p.resize) {
         const QRectF now = outlineBounds(items);
-        target = QRectF(p.machineRect.x(), -p.machineRect.y() - now.height(), now.width(),
-                        now.height());
+        target =
+            QRectF(p.machineRect.x(), -p.machineRect.y() - now.height(), now.width(), now.height());
     }
     fitItemsTo(items, target, false);
 }

@@ -41,9 +41,9 @@ private:
     FrameHandle m_kind;
 };
 
-const FrameHandle kHandles[]
-    = {FrameHandle::TopLeft,     FrameHandle::Top,    FrameHandle::TopRight,   FrameHandle::Right,
-       FrameHandle::BottomRight, FrameHandle::Bottom, FrameHandle::BottomLeft, FrameHandle::Left};
+const FrameHandle kHandles[] = {
+    FrameHandle::TopLeft,     FrameHandle::Top,    FrameHandle::TopRight,   FrameHandle::Right,
+    FrameHandle::BottomRight, FrameHandle::Bottom, FrameHandle::BottomLeft, FrameHandle::Left};
 
 } // namespace
 

@@ -112,6 +112,8 @@ void SelectionTool::activate(Jk_chang_jing *scene)
     scene->addItem(m_frame);
     connect(scene, &QGraphicsScene::selectionChanged, this, &SelectionTool::scheduleRefresh);
     connect(scene, &Jk_chang_jing::designChanged, this, &SelectionTool::scheduleRefresh);
+    // Geometry edits (and their undo) show up on the stack only.
+    connect(scene->undoStack(), &QUndoStack::indexChanged, this, &SelectionTool::scheduleRefresh);
     // The scene deletes the frame with itself.
     connect(scene, &QObject::destroyed, this, [this] {
         m_frame = nullptr;
@@ -136,6 +138,8 @@ void SelectionTool::deactivated(Jk_chang_jing *scene)
         return;
     cancelDrag();
     disconnect(scene, nullptr, this, nullptr);
+    if (scene->undoStack())
+        disconnect(scene->undoStack(), nullptr, this, nullptr);
     if (m_frame) {
         scene->removeItem(m_frame);
         delete m_frame;
@@ -183,8 +187,8 @@ bool SelectionTool::mousePress(Jk_chang_jing *scene, QGraphicsSceneMouseEvent *e
     const QPointF p = event->scenePos();
     const bool toggle = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
     const FrameHandle h = m_frame && m_frame->isVisible()
-        ? handleAt(m_frame->frame(), p, mmPerPixel(event))
-        : FrameHandle::None;
+                              ? handleAt(m_frame->frame(), p, mmPerPixel(event))
+                              : FrameHandle::None;
     m_clickedItem = nullptr;
     if (h == FrameHandle::Rotate) {
         startDrag(Drag::Rotate, p);
@@ -241,8 +245,8 @@ bool SelectionTool::mouseMove(Jk_chang_jing *scene, QGraphicsSceneMouseEvent *ev
         // Over a handle: show what a drag would do, and keep the items' hover
         // cursors out of it.
         const FrameHandle h = m_frame && m_frame->isVisible()
-            ? handleAt(m_frame->frame(), event->scenePos(), mmPerPixel(event))
-            : FrameHandle::None;
+                                  ? handleAt(m_frame->frame(), event->scenePos(), mmPerPixel(event))
+                                  : FrameHandle::None;
         QGraphicsView *view = viewOf(event);
         if (h != FrameHandle::None && h != FrameHandle::Inside && view) {
             view->viewport()->setCursor(cursorFor(h));
@@ -260,11 +264,60 @@ bool SelectionTool::mouseMove(Jk_chang_jing *scene, QGraphicsSceneMouseEvent *ev
     return true;
 }
 
+bool SelectionTool::isLive() const
+{
+    return m_items.size() <= kLiveItems;
+}
+
 void SelectionTool::dragTo(const QPointF &at, Qt::KeyboardModifiers modifiers)
 {
-    const bool shift = modifiers & Qt::ShiftModifier;
+    m_lastPointer = at;
+    m_shiftHeld = modifiers & Qt::ShiftModifier;
+    if (isLive()) {
+        applyDrag();
+        return;
+    }
+    // A large selection stays put while only the frame follows the pointer.
+    QRectF rect = m_startFrame;
+    QTransform turn;
     if (m_drag == Drag::Move) {
-        const QPointF delta = at - m_pressPos;
+        rect.translate(m_lastPointer - m_pressPos);
+    } else if (m_drag == Drag::Scale) {
+        rect = scaleTransform().mapRect(m_startFrame);
+    } else if (m_drag == Drag::Rotate) {
+        turn = rotateTransform();
+    }
+    if (m_frame)
+        m_frame->setTransform(turn);
+    showFrame(rect, m_items.size());
+    if (!turn.isIdentity())
+        emit selectionBoundsChanged(turn.mapRect(rect), m_items.size());
+}
+
+QTransform SelectionTool::scaleTransform() const
+{
+    const ScaleStep step = scaleForHandle(m_startFrame, m_handle, m_lastPointer, m_shiftHeld);
+    return QTransform::fromTranslate(-step.anchor.x(), -step.anchor.y())
+           * QTransform::fromScale(step.sx, step.sy)
+           * QTransform::fromTranslate(step.anchor.x(), step.anchor.y());
+}
+
+double SelectionTool::rotateAngle() const
+{
+    return rotationAngle(m_startFrame.center(), m_pressPos, m_lastPointer, m_shiftHeld);
+}
+
+QTransform SelectionTool::rotateTransform() const
+{
+    const QPointF c = m_startFrame.center();
+    return QTransform::fromTranslate(-c.x(), -c.y()) * QTransform().rotate(rotateAngle())
+           * QTransform::fromTranslate(c.x(), c.y());
+}
+
+void SelectionTool::applyDrag()
+{
+    if (m_drag == Drag::Move) {
+        const QPointF delta = m_lastPointer - m_pressPos;
         for (int i = 0; i < m_items.size(); ++i)
             m_items[i]->setPos(m_start[i].pos + delta);
         showFrame(m_startFrame.translated(delta), m_items.size());
@@ -273,15 +326,11 @@ void SelectionTool::dragTo(const QPointF &at, Qt::KeyboardModifiers modifiers)
     for (int i = 0; i < m_items.size(); ++i)
         applyGeometry(m_items[i], m_start[i]);
     if (m_drag == Drag::Scale) {
-        const ScaleStep step = scaleForHandle(m_startFrame, m_handle, at, shift);
+        const ScaleStep step = scaleForHandle(m_startFrame, m_handle, m_lastPointer, m_shiftHeld);
         scaleItems(m_items, step.sx, step.sy, step.anchor);
-        const QTransform t = QTransform::fromTranslate(-step.anchor.x(), -step.anchor.y())
-            * QTransform::fromScale(step.sx, step.sy)
-            * QTransform::fromTranslate(step.anchor.x(), step.anchor.y());
-        showFrame(t.mapRect(m_startFrame), m_items.size());
+        showFrame(scaleTransform().mapRect(m_startFrame), m_items.size());
     } else if (m_drag == Drag::Rotate) {
-        const QPointF centre = m_startFrame.center();
-        Jk_tu_yuan::rotateItems(m_items, rotationAngle(centre, m_pressPos, at, shift), centre);
+        Jk_tu_yuan::rotateItems(m_items, rotateAngle(), m_startFrame.center());
         showFrame(outlineBounds(m_items), m_items.size());
     }
 }
@@ -306,13 +355,18 @@ bool SelectionTool::mouseRelease(Jk_chang_jing *scene, QGraphicsSceneMouseEvent 
 
 void SelectionTool::finishDrag()
 {
+    if (!isLive()) {
+        if (m_frame)
+            m_frame->setTransform(QTransform());
+        applyDrag();
+    }
     const Drag kind = m_drag;
     m_drag = Drag::None;
     m_clickedItem = nullptr;
     bool changed = false;
     for (int i = 0; i < m_items.size() && !changed; ++i) {
-        changed = m_items[i]->pos() != m_start[i].pos
-            || m_items[i]->transform() != m_start[i].transform;
+        changed =
+            m_items[i]->pos() != m_start[i].pos || m_items[i]->transform() != m_start[i].transform;
     }
     if (changed && m_scene) {
         const char *text = kind == Drag::Move ? "移动" : kind == Drag::Scale ? "缩放" : "旋转";
@@ -326,8 +380,12 @@ void SelectionTool::finishDrag()
 void SelectionTool::cancelDrag()
 {
     if (m_drag == Drag::Move || m_drag == Drag::Scale || m_drag == Drag::Rotate) {
-        for (int i = 0; i < m_items.size(); ++i)
-            applyGeometry(m_items[i], m_start[i]);
+        if (isLive()) {
+            for (int i = 0; i < m_items.size(); ++i)
+                applyGeometry(m_items[i], m_start[i]);
+        }
+        if (m_frame)
+            m_frame->setTransform(QTransform());
     }
     m_drag = Drag::None;
     m_clickedItem = nullptr;

@@ -10,6 +10,9 @@
 //    about the opposite handle (Shift keeps the ratio); drag the round handle:
 //    rotate about the frame's centre (Shift snaps to 15 degrees);
 //  - arrow keys nudge by 1 mm (Shift: 10 mm), Escape clears the selection.
+// Up to kLiveItems items follow the pointer live; a larger selection stays in
+// place while only its frame follows, and moves once on release, so that a
+// drag of thousands of items costs one repaint per pointer step.
 // Every finished drag is one undoable step on the scene's stack. The tool
 // serves one scene at a time (see activate). GUI thread only.
 #pragma once
@@ -21,6 +24,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QTransform>
 #include <QVector>
 
 class QTimer;
@@ -45,6 +49,8 @@ public:
     void activate(Jk_chang_jing *scene);
     Jk_chang_jing *scene() const { return m_scene; }
     SelectionFrame *frame() const { return m_frame; }
+
+    static constexpr int kLiveItems = 500;
 
     int number() const override { return 0; }
     bool mousePress(Jk_chang_jing *scene, QGraphicsSceneMouseEvent *event) override;
@@ -73,6 +79,12 @@ private:
 
     void startDrag(Drag kind, const QPointF &at);
     void dragTo(const QPointF &at, Qt::KeyboardModifiers modifiers);
+    // Puts the drag so far onto the items, from their state at the press.
+    void applyDrag();
+    bool isLive() const;
+    QTransform scaleTransform() const;
+    QTransform rotateTransform() const;
+    double rotateAngle() const;
     void finishDrag();
     void cancelDrag();
     void showFrame(const QRectF &bounds, int count);
@@ -84,6 +96,8 @@ private:
     Drag m_drag = Drag::None;
     FrameHandle m_handle = FrameHandle::None;
     QPointF m_pressPos;
+    QPointF m_lastPointer;
+    bool m_shiftHeld = false;
     QRectF m_startFrame;
     QList<Jk_tu_yuan *> m_items;
     QVector<ItemGeometry> m_start;

@@ -59,7 +59,7 @@ bool TextSettings::fromString(const QString &text, TextSettings *out)
 bool TextSettings::operator==(const TextSettings &o) const
 {
     return family == o.family && sizeMm == o.sizeMm && bold == o.bold && italic == o.italic
-        && letterSpacingMm == o.letterSpacingMm && lineSpacingMm == o.lineSpacingMm;
+           && letterSpacingMm == o.letterSpacingMm && lineSpacingMm == o.lineSpacingMm;
 }
 
 QPainterPath textOutline(const QString &text, const TextSettings &settings)

@@ -61,6 +61,8 @@ private slots:
     void rotateHandleTurnsAboutTheCentre();
     void arrowKeysNudge();
     void escapeCancelsADragOrClearsTheSelection();
+    void largeSelectionsMoveOnRelease_data();
+    void largeSelectionsMoveOnRelease();
     void toolLeavesOneSceneForAnother();
 };
 
@@ -255,6 +257,58 @@ void TestSelectionTool::escapeCancelsADragOrClearsTheSelection()
     QVERIFY(b.left->isSelected());
     b.key(Qt::Key_Escape);
     QVERIFY(b.selected().isEmpty());
+}
+
+void TestSelectionTool::largeSelectionsMoveOnRelease_data()
+{
+    QTest::addColumn<int>("extra"); // items added to the three of the board
+    QTest::newRow("small selection follows live") << 10;
+    QTest::newRow("large selection waits") << SelectionTool::kLiveItems;
+}
+
+void TestSelectionTool::largeSelectionsMoveOnRelease()
+{
+    QFETCH(int, extra);
+    Board b;
+    QList<Jk_tu_yuan *> all{b.left, b.right, b.round};
+    for (int i = 0; i < extra; ++i) {
+        Jk_tu_yuan *item = editing_test::rectItem(200 + (i % 20) * 3, -300 + (i / 20) * 3, 2, 2);
+        b.scene.addItem(item);
+        all << item;
+    }
+    for (Jk_tu_yuan *i : all)
+        i->setSelected(true);
+    QCoreApplication::processEvents();
+    const bool live = all.size() <= SelectionTool::kLiveItems;
+    const QVector<QPainterPath> start = scenePaths(all);
+    const QRectF frame = b.tool.frame()->frame();
+    // Move: grab the left rectangle's edge.
+    b.press(QPointF(54, -120));
+    b.moveHeld(QPointF(60, -120));
+    b.moveHeld(QPointF(74, -110));
+    QCOMPARE(b.left->pos(), live ? QPointF(70, -110) : QPointF(50, -120));
+    QVERIFY(sameRect(b.tool.frame()->frame(), frame.translated(20, 10)));
+    b.release(QPointF(74, -110));
+    QCOMPARE(b.left->pos(), QPointF(70, -110));
+    QCOMPARE(b.round->pos(), QPointF(170, -70));
+    QCOMPARE(b.scene.undoStack()->count(), 1);
+    b.scene.undoStack()->undo();
+    QVERIFY(samePaths(scenePaths(all), start));
+    QCoreApplication::processEvents();
+    // Rotate a quarter turn with the round handle (6 mm above the top centre).
+    const QRectF f = b.tool.frame()->frame();
+    const QPointF handle(f.center().x(), f.top() - 6);
+    b.press(handle);
+    b.moveHeld(handle + QPointF(1, 0));
+    b.moveHeld(QPointF(f.right() + 30, f.center().y()));
+    QCOMPARE(b.left->jiao_du, live ? 90.0 : 0.0);
+    QCOMPARE(b.tool.frame()->transform().isIdentity(), live);
+    b.release(QPointF(f.right() + 30, f.center().y()));
+    QCOMPARE(b.left->jiao_du, 90.0);
+    QVERIFY(b.tool.frame()->transform().isIdentity());
+    QCOMPARE(b.scene.undoStack()->count(), 1);
+    b.scene.undoStack()->undo();
+    QVERIFY(samePaths(scenePaths(all), start));
 }
 
 void TestSelectionTool::toolLeavesOneSceneForAnother()
