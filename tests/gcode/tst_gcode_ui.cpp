@@ -1,5 +1,6 @@
 // The rotary dialog and the job actions of the window.
 #include "gcode_job_controller.h"
+#include "gcode_test_support.h"
 #include "gun_zhou.h"
 #include "jk_gcode.h"
 #include "job_designs.h"
@@ -20,18 +21,6 @@ using namespace lumitra;
 
 namespace {
 
-RotarySettings rotary(int mode, const QString &axis, double circumference, double diameter,
-                      double units)
-{
-    RotarySettings s;
-    s.mode = mode;
-    s.axis = axis;
-    s.circumference = circumference;
-    s.diameter = diameter;
-    s.unitsPerTurn = units;
-    return s;
-}
-
 template<typename T>
 T *child(QWidget *w, const char *name)
 {
@@ -39,12 +28,6 @@ T *child(QWidget *w, const char *name)
     if (!found)
         qFatal("no widget %s", name);
     return found;
-}
-
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 } // namespace
@@ -95,7 +78,7 @@ void TestGcodeUi::init()
 
 void TestGcodeUi::dialogShowsStoredSettings()
 {
-    saveRotarySettings(rotary(2, "X", 157.5, 50.25, 360));
+    saveRotarySettings(rotarySettings(2, "X", 157.5, 50.25, 360));
     Gun_Zhou dialog;
     QCOMPARE(child<QComboBox>(&dialog, "kaiGuan_Box")->currentIndex(), 2);
     QCOMPARE(child<QComboBox>(&dialog, "zhou_Box")->currentText(), QStringLiteral("X"));
@@ -152,7 +135,7 @@ void TestGcodeUi::confirmStoresSixDigits()
 
 void TestGcodeUi::cancelStoresNothing()
 {
-    saveRotarySettings(rotary(0, "Y", 100, 50, 360));
+    saveRotarySettings(rotarySettings(0, "Y", 100, 50, 360));
     Gun_Zhou dialog;
     child<QComboBox>(&dialog, "kaiGuan_Box")->setCurrentIndex(2);
     child<QDoubleSpinBox>(&dialog, "zhiJing_Box")->setValue(12);
@@ -175,7 +158,7 @@ void TestGcodeUi::runWithoutRotary()
     QCOMPARE(ready.count(), 1);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(programState().jobFilePath, Jk_gcode::defaultJobPath());
-    QVERIFY(readAll(Jk_gcode::defaultJobPath()).contains("G1X20.00"));
+    QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains("G1X20.00"));
 }
 
 void TestGcodeUi::runWithRotaryAsksFirst_data()
@@ -188,7 +171,7 @@ void TestGcodeUi::runWithRotaryAsksFirst_data()
 void TestGcodeUi::runWithRotaryAsksFirst()
 {
     QFETCH(int, answer);
-    saveRotarySettings(rotary(1, "X", 100, 50, 100));
+    saveRotarySettings(rotarySettings(1, "X", 100, 50, 100));
     m_answer = answer;
     GcodeJobController controller(nullptr);
     controller.setLayerList(&m_design.layers);
@@ -197,7 +180,7 @@ void TestGcodeUi::runWithRotaryAsksFirst()
     QCOMPARE(m_messages.first().message, QStringLiteral("请在滚轴界面检查相关参数再运行!"));
     QCOMPARE(m_messages.first().firstButton, QStringLiteral("确定"));
     QCOMPARE(m_messages.first().secondButton, QStringLiteral("取消"));
-    const QByteArray job = readAll(Jk_gcode::defaultJobPath());
+    const QByteArray job = readFileBytes(Jk_gcode::defaultJobPath());
     if (answer == 1)
         QVERIFY(job.contains("G1Z-20.000")); // X written as the rotary's Z
     else
@@ -206,7 +189,7 @@ void TestGcodeUi::runWithRotaryAsksFirst()
 
 void TestGcodeUi::runRefusesUnusableRotary()
 {
-    saveRotarySettings(rotary(2, "Y", 100, 0, 360));
+    saveRotarySettings(rotarySettings(2, "Y", 100, 0, 360));
     GcodeJobController controller(nullptr);
     controller.setLayerList(&m_design.layers);
     QVERIFY(!controller.prepareRun(m_design.items()));
@@ -248,7 +231,7 @@ void TestGcodeUi::saveGcode()
     }
     QCOMPARE(saved.count(), 1);
     QCOMPARE(saved.first().first().toString(), m_dir.filePath(written));
-    QVERIFY(readAll(m_dir.filePath(written)).startsWith("M4\nM8\n;L0\n"));
+    QVERIFY(readFileBytes(m_dir.filePath(written)).startsWith("M4\nM8\n;L0\n"));
     QVERIFY(m_messages.isEmpty());
 }
 

@@ -1,5 +1,6 @@
 // Whole jobs from the generator: the job steps, golden jobs compared byte for
 // byte, and GRBL acceptance of everything it writes.
+#include "gcode_test_support.h"
 #include "grbl_job_check.h"
 #include "jk_gcode.h"
 #include "job_designs.h"
@@ -19,12 +20,6 @@ namespace {
 
 const QByteArray kHeader("M4\nM8\n");
 const QByteArray kTrailer("M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n");
-
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 RotarySettings goldenRotary()
 {
@@ -88,7 +83,7 @@ void TestJkGcode::emptyDesign()
     QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("empty.nc")));
     QCOMPARE(finished.count(), 1);
-    QCOMPARE(readAll(jobPath("empty.nc")), kHeader + preamble.toLatin1() + kTrailer);
+    QCOMPARE(readFileBytes(jobPath("empty.nc")), kHeader + preamble.toLatin1() + kTrailer);
     QVERIFY(programState().preamble.isEmpty());
     QVERIFY(generator.lastError().isEmpty());
 }
@@ -105,7 +100,8 @@ void TestJkGcode::passesRepeatItems()
     // Each path is its own piece, so each starts with all its words again.
     const QByteArray once("G0X0.00Y0.00S800.00F5000.00\nG1X20.00\n"
                           "G0X0.00Y5.00S800.00F5000.00\nG1Y10.00\n");
-    QCOMPARE(readAll(jobPath("passes.nc")), kHeader + ";L0\n" + once + once + once + kTrailer);
+    QCOMPARE(readFileBytes(jobPath("passes.nc")),
+             kHeader + ";L0\n" + once + once + once + kTrailer);
 }
 
 void TestJkGcode::layersInListOrder()
@@ -120,9 +116,9 @@ void TestJkGcode::layersInListOrder()
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("order.nc")));
-    QCOMPARE(readAll(jobPath("order.nc")), kHeader + ";L5\nG0X3.00Y0.00S100.00F5000.00\nG1X4.00\n"
-                                               + ";L1\nG0X1.00Y0.00S200.00F5000.00\nG1X2.00\n;L1\n"
-                                               + kTrailer);
+    QCOMPARE(readFileBytes(jobPath("order.nc")),
+             kHeader + ";L5\nG0X3.00Y0.00S100.00F5000.00\nG1X4.00\n"
+                 + ";L1\nG0X1.00Y0.00S200.00F5000.00\nG1X2.00\n;L1\n" + kTrailer);
 }
 
 void TestJkGcode::outputOffWritesNothing()
@@ -133,7 +129,7 @@ void TestJkGcode::outputOffWritesNothing()
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("off.nc")));
-    QCOMPARE(readAll(jobPath("off.nc")), kHeader + kTrailer);
+    QCOMPARE(readFileBytes(jobPath("off.nc")), kHeader + kTrailer);
 }
 
 void TestJkGcode::layerComments_data()
@@ -157,7 +153,7 @@ void TestJkGcode::layerComments()
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("comment.nc")));
-    const QByteArray job = readAll(jobPath("comment.nc"));
+    const QByteArray job = readFileBytes(jobPath("comment.nc"));
     QCOMPARE(job, kHeader + comment + kTrailer);
     QCOMPARE(grblProblem(job), QString());
 }
@@ -172,7 +168,7 @@ void TestJkGcode::cancelledJobKeepsTrailer()
     QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("cancel.nc")));
     QCOMPARE(finished.count(), 1);
-    QCOMPARE(readAll(jobPath("cancel.nc")), kHeader + ";L0\n;L2\n" + kTrailer);
+    QCOMPARE(readFileBytes(jobPath("cancel.nc")), kHeader + ";L0\n;L2\n" + kTrailer);
 }
 
 void TestJkGcode::rotaryFromSettingsStore()
@@ -190,7 +186,7 @@ void TestJkGcode::rotaryFromSettingsStore()
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("rotary.nc")));
-    QCOMPARE(readAll(jobPath("rotary.nc")),
+    QCOMPARE(readFileBytes(jobPath("rotary.nc")),
              kHeader + "G91\nG0Z-7\nG0Z7\nG90\n;L0\nG0X10.00Z-40.000S800.00F5000.00\nG1Z0.000\n"
                  + kTrailer);
 }
@@ -212,7 +208,7 @@ void TestJkGcode::refusesUnusableRotary()
     QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), jobPath("kept.nc")));
     QVERIFY(!generator.lastError().isEmpty());
     QCOMPARE(finished.count(), 0);
-    QCOMPARE(readAll(jobPath("kept.nc")), QByteArray("old job\n"));
+    QCOMPARE(readFileBytes(jobPath("kept.nc")), QByteArray("old job\n"));
 }
 
 void TestJkGcode::refusesUnwritableFile()
@@ -235,7 +231,7 @@ void TestJkGcode::defaultFileIsCodeTxt()
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), QString()));
-    QCOMPARE(readAll(Jk_gcode::defaultJobPath()), kHeader + kTrailer);
+    QCOMPARE(readFileBytes(Jk_gcode::defaultJobPath()), kHeader + kTrailer);
 }
 
 void TestJkGcode::goldenJobs_data()
@@ -258,7 +254,7 @@ void TestJkGcode::goldenJobs()
         programState().modelFlag = true;
     }
     QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath(name + ".nc")));
-    const QByteArray job = readAll(jobPath(name + ".nc"));
+    const QByteArray job = readFileBytes(jobPath(name + ".nc"));
     QCOMPARE(grblProblem(job), QString());
 
     const QString golden = QStringLiteral(LUMITRA_TEST_DATA_DIR "/gcode/") + name + ".nc";
@@ -267,7 +263,7 @@ void TestJkGcode::goldenJobs()
         QVERIFY(out.open(QIODevice::WriteOnly));
         out.write(job);
     }
-    const QByteArray expected = readAll(golden);
+    const QByteArray expected = readFileBytes(golden);
     QVERIFY2(!expected.isEmpty(), qPrintable(golden));
     QCOMPARE(job, expected);
 }
@@ -308,7 +304,7 @@ void TestJkGcode::randomDesignsAreGrblValid()
         Jk_gcode generator;
         generator.setLayerList(&design.layers);
         QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("random.nc")));
-        const QByteArray job = readAll(jobPath("random.nc"));
+        const QByteArray job = readFileBytes(jobPath("random.nc"));
         QVERIFY(job.size() > 1000);
         QCOMPARE(grblProblem(job), QString());
     }

@@ -1,5 +1,6 @@
 // Headless export: design files of every kind through the generator, the
 // process options, and refusals that leave the output untouched.
+#include "gcode_test_support.h"
 #include "grbl_job_check.h"
 #include "jk_tu_yuan.h"
 #include "job_export.h"
@@ -27,12 +28,6 @@ const QByteArray kSvg("<svg xmlns='http://www.w3.org/2000/svg' width='60mm' heig
 const QByteArray kEmptySvg("<svg xmlns='http://www.w3.org/2000/svg' width='10mm' height='10mm'/>");
 const QByteArray kDxf("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n10\n20\n10\n30\n0\n11\n60\n21\n"
                       "30\n31\n0\n0\nENDSEC\n0\nEOF\n");
-
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 void writeFile(const QString &path, const QByteArray &bytes)
 {
@@ -139,7 +134,7 @@ void TestJobExport::exportsEveryKind()
     QString error;
     QVERIFY2(exportJob({path(input), output, options}, &error), qPrintable(error));
     QVERIFY(error.isEmpty());
-    const QByteArray job = readAll(output);
+    const QByteArray job = readFileBytes(output);
     QCOMPARE(grblProblem(job), QString());
     QVERIFY(job.startsWith("M4\nM8\n;L0\n"));
     QVERIFY(job.endsWith("M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n"));
@@ -178,7 +173,7 @@ void TestJobExport::projectKeepsItsLayers()
 
     QString error;
     QVERIFY2(exportJob({path("design.lumitra"), path("design.nc"), {}}, &error), qPrintable(error));
-    const QByteArray job = readAll(path("design.nc"));
+    const QByteArray job = readFileBytes(path("design.nc"));
     QCOMPARE(grblProblem(job), QString());
     const int saved = job.indexOf(";cut\n");
     const int fresh = job.indexOf(";L7\n");
@@ -192,7 +187,7 @@ void TestJobExport::projectKeepsItsLayers()
 
     // Options override the saved parameters.
     QVERIFY(exportJob({path("design.lumitra"), path("design2.nc"), {{"power", "10"}}}, &error));
-    const QByteArray overridden = readAll(path("design2.nc"));
+    const QByteArray overridden = readFileBytes(path("design2.nc"));
     QVERIFY(overridden.contains("S100.00F777.00"));
     QVERIFY(!overridden.contains("S420.00"));
 }

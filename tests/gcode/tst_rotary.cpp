@@ -1,4 +1,5 @@
 // Rotary rewrite, its settings in the settings store, and the Z bumps.
+#include "gcode_test_support.h"
 #include "rotary.h"
 #include "settings_store.h"
 
@@ -7,20 +8,6 @@
 using namespace lumitra;
 
 Q_DECLARE_METATYPE(lumitra::RotarySettings)
-
-namespace {
-RotarySettings rotary(int mode, const QString &axis, double circumference, double diameter,
-                      double units)
-{
-    RotarySettings s;
-    s.mode = mode;
-    s.axis = axis;
-    s.circumference = circumference;
-    s.diameter = diameter;
-    s.unitsPerTurn = units;
-    return s;
-}
-} // namespace
 
 class TestRotary : public QObject
 {
@@ -45,34 +32,37 @@ void TestRotary::rewrite_data()
     QTest::addColumn<QByteArray>("expected");
 
     const QByteArray line("G1X10.00Y-20.00\n");
-    QTest::newRow("mode 0 unchanged") << rotary(0, "Y", 180, 50, 360) << line << line;
-    QTest::newRow("other mode unchanged") << rotary(3, "Y", 180, 50, 360) << line << line;
+    QTest::newRow("mode 0 unchanged") << rotarySettings(0, "Y", 180, 50, 360) << line << line;
+    QTest::newRow("other mode unchanged") << rotarySettings(3, "Y", 180, 50, 360) << line << line;
     QTest::newRow("circumference on Y")
-        << rotary(1, "Y", 180, 50, 360) << line << QByteArray("G1X10.00Z-40.000\n");
-    QTest::newRow("diameter uses 3.14")
-        << rotary(2, "Y", 0, 50, 360) << QByteArray("G1Y-31.40\n") << QByteArray("G1Z-72.000\n");
+        << rotarySettings(1, "Y", 180, 50, 360) << line << QByteArray("G1X10.00Z-40.000\n");
+    QTest::newRow("diameter uses 3.14") << rotarySettings(2, "Y", 0, 50, 360)
+                                        << QByteArray("G1Y-31.40\n") << QByteArray("G1Z-72.000\n");
     QTest::newRow("X flips the sign")
-        << rotary(1, "X", 100, 0, 100) << QByteArray("G1X10.00\nG1X-10.00\n")
+        << rotarySettings(1, "X", 100, 0, 100) << QByteArray("G1X10.00\nG1X-10.00\n")
         << QByteArray("G1Z-10.000\nG1Z10.000\n");
-    QTest::newRow("A axis") << rotary(1, "A", 100, 0, 200) << QByteArray("G1X1A2.5Y3\n")
+    QTest::newRow("A axis") << rotarySettings(1, "A", 100, 0, 200) << QByteArray("G1X1A2.5Y3\n")
                             << QByteArray("G1X1Z5.000Y3\n");
     QTest::newRow("unknown letter works on Y")
-        << rotary(1, "B", 100, 0, 200) << QByteArray("G1X1Y2\n") << QByteArray("G1X1Z4.000\n");
+        << rotarySettings(1, "B", 100, 0, 200) << QByteArray("G1X1Y2\n")
+        << QByteArray("G1X1Z4.000\n");
     QTest::newRow("lowercase letter is not X")
-        << rotary(1, "x", 100, 0, 200) << QByteArray("G1X1Y2\n") << QByteArray("G1X1Z4.000\n");
+        << rotarySettings(1, "x", 100, 0, 200) << QByteArray("G1X1Y2\n")
+        << QByteArray("G1X1Z4.000\n");
     QTest::newRow("not a number reads 0")
-        << rotary(1, "Y", 100, 0, 200) << QByteArray("Y-\nY1.2.3\n")
+        << rotarySettings(1, "Y", 100, 0, 200) << QByteArray("Y-\nY1.2.3\n")
         << QByteArray("Z0.000\nZ0.000\n");
     QTest::newRow("trailer restored on Y")
-        << rotary(1, "Y", 180, 0, 360) << QByteArray("M5\nG90\nG0X0Y0\nM2\n")
+        << rotarySettings(1, "Y", 180, 0, 360) << QByteArray("M5\nG90\nG0X0Y0\nM2\n")
         << QByteArray("M5\nG90\nG0X0Y0\nM2\n");
     QTest::newRow("trailer restored on X")
-        << rotary(1, "X", 180, 0, 360) << QByteArray("G0X0Y0\n") << QByteArray("G0X0Y0\n");
+        << rotarySettings(1, "X", 180, 0, 360) << QByteArray("G0X0Y0\n") << QByteArray("G0X0Y0\n");
     QTest::newRow("only the last return restored")
-        << rotary(2, "Y", 0, 40, 360) << QByteArray("G0X0Y0\nG1X5Y10\nG0X0Y0\n")
+        << rotarySettings(2, "Y", 0, 40, 360) << QByteArray("G0X0Y0\nG1X5Y10\nG0X0Y0\n")
         << QByteArray("G0X0Z0.000\nG1X5Z28.662\nG0X0Y0\n");
     QTest::newRow("flipped tiny value reads as zero and is restored")
-        << rotary(1, "X", 100, 0, 100) << QByteArray("G0X0.0001Y0\n") << QByteArray("G0X0Y0\n");
+        << rotarySettings(1, "X", 100, 0, 100) << QByteArray("G0X0.0001Y0\n")
+        << QByteArray("G0X0Y0\n");
 }
 
 void TestRotary::rewrite()
@@ -90,14 +80,14 @@ void TestRotary::settingsRoundTrip_data()
     QTest::addColumn<QString>("diameterText");
     QTest::addColumn<QString>("unitsText");
 
-    QTest::newRow("whole numbers") << rotary(1, "Y", 180, 50, 360) << "180"
+    QTest::newRow("whole numbers") << rotarySettings(1, "Y", 180, 50, 360) << "180"
                                    << "50"
                                    << "360";
     QTest::newRow("six significant digits")
-        << rotary(2, "X", 3.14159265, 12.3456789, 0.000123456) << "3.14159"
+        << rotarySettings(2, "X", 3.14159265, 12.3456789, 0.000123456) << "3.14159"
         << "12.3457"
         << "0.000123456";
-    QTest::newRow("large") << rotary(0, "A", 1234567, 0.5, 100) << "1.23457e+06"
+    QTest::newRow("large") << rotarySettings(0, "A", 1234567, 0.5, 100) << "1.23457e+06"
                            << "0.5"
                            << "100";
 }
@@ -142,11 +132,12 @@ void TestRotary::usability_data()
 {
     QTest::addColumn<RotarySettings>("settings");
     QTest::addColumn<bool>("usable");
-    QTest::newRow("off ignores zeros") << rotary(0, "Y", 0, 0, 0) << true;
-    QTest::newRow("circumference zero") << rotary(1, "Y", 0, 50, 360) << false;
-    QTest::newRow("circumference mode ignores diameter") << rotary(1, "Y", 100, 0, 360) << true;
-    QTest::newRow("diameter negative") << rotary(2, "Y", 100, -1, 360) << false;
-    QTest::newRow("no units") << rotary(2, "Y", 100, 50, 0) << false;
+    QTest::newRow("off ignores zeros") << rotarySettings(0, "Y", 0, 0, 0) << true;
+    QTest::newRow("circumference zero") << rotarySettings(1, "Y", 0, 50, 360) << false;
+    QTest::newRow("circumference mode ignores diameter")
+        << rotarySettings(1, "Y", 100, 0, 360) << true;
+    QTest::newRow("diameter negative") << rotarySettings(2, "Y", 100, -1, 360) << false;
+    QTest::newRow("no units") << rotarySettings(2, "Y", 100, 50, 0) << false;
 }
 
 void TestRotary::usability()
@@ -165,11 +156,12 @@ void TestRotary::bumps_data()
 
     const QByteArray up("G91\nG0Z7\nG0Z-7\nG90\n");
     const QByteArray down("G91\nG0Z-7\nG0Z7\nG90\n");
-    QTest::newRow("off") << rotary(0, "X", 1, 1, 1) << true << QByteArray() << QByteArray();
-    QTest::newRow("X with flag") << rotary(1, "X", 1, 1, 1) << true << up << up;
-    QTest::newRow("X without flag") << rotary(2, "X", 1, 1, 1) << false << QByteArray() << up;
-    QTest::newRow("Y with flag") << rotary(1, "Y", 1, 1, 1) << true << down << QByteArray();
-    QTest::newRow("mode 3 on X") << rotary(3, "X", 1, 1, 1) << true << QByteArray() << up;
+    QTest::newRow("off") << rotarySettings(0, "X", 1, 1, 1) << true << QByteArray() << QByteArray();
+    QTest::newRow("X with flag") << rotarySettings(1, "X", 1, 1, 1) << true << up << up;
+    QTest::newRow("X without flag")
+        << rotarySettings(2, "X", 1, 1, 1) << false << QByteArray() << up;
+    QTest::newRow("Y with flag") << rotarySettings(1, "Y", 1, 1, 1) << true << down << QByteArray();
+    QTest::newRow("mode 3 on X") << rotarySettings(3, "X", 1, 1, 1) << true << QByteArray() << up;
 }
 
 void TestRotary::bumps()
