@@ -267,8 +267,9 @@ void EditController::selectAll()
     Jk_chang_jing *s = scene();
     if (!s)
         return;
-    for (Jk_tu_yuan *item : s->designItems()) {
-        if (!item->isOnHiddenLayer())
+    for (QGraphicsItem *g : s->items()) {
+        auto *item = dynamic_cast<Jk_tu_yuan *>(g);
+        if (item && !item->isOnHiddenLayer())
             item->setSelected(true);
     }
 }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "alignment.h"
+#include "array_dialog.h"
 #include "arrays.h"
+#include "jk_wen_zi2.h"
+#include "move_dialog.h"
 #include "placement.h"
 #include "text_outline.h"
 
@@ -11,12 +14,9 @@
 #include <QVector>
 #include <memory>
 
-class ArrayDialog;
 class DesignPages;
 class Jk_chang_jing;
 class Jk_tu_yuan;
-class Jk_wen_zi2;
-class MoveDialog;
 class QAction;
 class QActionGroup;
 class QTimer;
