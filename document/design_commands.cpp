@@ -83,7 +83,7 @@ DeleteItemsCommand::DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_y
     QPointer<Jk_tu_yuan> above;
     for (Jk_tu_yuan *item : scene->designItems()) {
         if (doomed.contains(item))
-            m_entries.append(Entry {item, above});
+            m_entries.append(Entry{item, above});
         else
             above = item;
     }

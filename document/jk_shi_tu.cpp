@@ -164,7 +164,7 @@ void Jk_shi_tu::finishRubberBand(Qt::KeyboardModifiers modifiers)
         return;
     // Left to right picks what lies wholly inside; right to left what it touches.
     const Qt::ItemSelectionMode mode =
-            touch ? Qt::IntersectsItemBoundingRect : Qt::ContainsItemBoundingRect;
+        touch ? Qt::IntersectsItemBoundingRect : Qt::ContainsItemBoundingRect;
     for (QGraphicsItem *g : scene()->items(band, mode)) {
         auto *item = dynamic_cast<Jk_tu_yuan *>(g);
         if (item && !item->isOnHiddenLayer())

@@ -41,7 +41,7 @@ bool LayerList::rebuild(const QVector<LayerKey> &items)
         }
     }
     for (TuCeng *l : m_layers)
-        l->shanchu = !items.contains(LayerKey {l->yanse, l->tupian});
+        l->shanchu = !items.contains(LayerKey{l->yanse, l->tupian});
     for (int i = m_layers.size() - 1; i >= 0; --i) {
         if (m_layers.at(i)->shanchu) {
             delete m_layers.takeAt(i);

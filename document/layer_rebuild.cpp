@@ -9,7 +9,7 @@ QVector<LayerKey> layerKeysOf(const QList<Jk_tu_yuan *> &items)
     QVector<LayerKey> keys;
     keys.reserve(items.size());
     for (const Jk_tu_yuan *item : items)
-        keys.append(LayerKey {item->layer_id, item->is_bitmap});
+        keys.append(LayerKey{item->layer_id, item->is_bitmap});
     return keys;
 }
 

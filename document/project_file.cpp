@@ -50,9 +50,9 @@ bool settleLayer(TuCeng &l)
     l.saomiao = qBound(0.0, l.saomiao, 100.0);
     l.moshi = qBound(0, l.moshi, l.tupian ? int(NegativeMode) : int(CrossFillMode));
     l.shanchu = false;
-    if (l.gonglv != before.gonglv || l.sudu != before.sudu || l.cishu != before.cishu ||
-        l.fangxiang != before.fangxiang || l.jianju != before.jianju ||
-        l.saomiao != before.saomiao || l.moshi != before.moshi)
+    if (l.gonglv != before.gonglv || l.sudu != before.sudu || l.cishu != before.cishu
+        || l.fangxiang != before.fangxiang || l.jianju != before.jianju
+        || l.saomiao != before.saomiao || l.moshi != before.moshi)
         qDebug() << " project read: layer" << l.yanse << "parameters brought into range";
     return true;
 }
@@ -75,8 +75,8 @@ Jk_tu_yuan *readItem(QDataStream &in)
     in >> angle >> layer >> x >> y;
     if (in.status() != QDataStream::Ok || !readTransformChecked(in, transform))
         return nullptr;
-    if (!validLayerNumber(layer) || !std::isfinite(angle) || !std::isfinite(x) ||
-        !std::isfinite(y)) {
+    if (!validLayerNumber(layer) || !std::isfinite(angle) || !std::isfinite(x)
+        || !std::isfinite(y)) {
         in.setStatus(QDataStream::ReadCorruptData);
         return nullptr;
     }

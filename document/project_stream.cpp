@@ -73,9 +73,9 @@ bool pathElementsValid(const QByteArray &block, const QDataStream &like)
     }
     qint32 subpathStart = 0, fillRule = 0;
     s >> subpathStart >> fillRule;
-    return pendingControls == 0 && s.status() == QDataStream::Ok && subpathStart >= 0 &&
-           subpathStart < count && types.at(subpathStart) == QPainterPath::MoveToElement &&
-           (fillRule == Qt::OddEvenFill || fillRule == Qt::WindingFill);
+    return pendingControls == 0 && s.status() == QDataStream::Ok && subpathStart >= 0
+           && subpathStart < count && types.at(subpathStart) == QPainterPath::MoveToElement
+           && (fillRule == Qt::OddEvenFill || fillRule == Qt::WindingFill);
 }
 
 struct PngHeader

@@ -24,5 +24,5 @@ public:
     virtual bool keyPress(Jk_chang_jing *, QKeyEvent *) { return false; }
 
     // Called when the tool is taken off the scene (another tool was chosen).
-    virtual void deactivated(Jk_chang_jing *) { }
+    virtual void deactivated(Jk_chang_jing *) {}
 };

@@ -42,7 +42,7 @@ void paintWorkArea(QPainter *painter, const QRectF &exposed, const QRectF &area,
     const QRectF clip = exposed.intersected(area);
     if (!clip.isEmpty()) {
         const double pixelsPerMm =
-                std::hypot(painter->worldTransform().m11(), painter->worldTransform().m12());
+            std::hypot(painter->worldTransform().m11(), painter->worldTransform().m12());
         const double step = gridStepFor(pixelsPerMm);
         QPen minor(QColor(232, 232, 232), 0);
         QPen major(QColor(200, 200, 200), 0);

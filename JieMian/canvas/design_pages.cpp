@@ -306,9 +306,9 @@ void DesignPages::askClose(int index)
     if (count() <= 1)
         return;
     const Jk_chang_jing *s = scene(index);
-    if (s && s->designItemCount() > 0 &&
-        !lumitra::show_message(this, lumitra::MessageKind::Question, tr("取消"), tr("确定"),
-                               tr("关闭页面将删除其中的所有图形,是否继续?"), tr("提示")))
+    if (s && s->designItemCount() > 0
+        && !lumitra::show_message(this, lumitra::MessageKind::Question, tr("取消"), tr("确定"),
+                                  tr("关闭页面将删除其中的所有图形,是否继续?"), tr("提示")))
         return;
     closePage(index);
 }

@@ -74,14 +74,14 @@ ProjectSaveResult ProjectCommands::saveProjectTo(const QString &path)
 ProjectCommands::SaveOutcome ProjectCommands::save_project()
 {
     const SaveRefusal refusal =
-            saveRefusal(lumitra::programState().running, m_pages->totalItemCount());
+        saveRefusal(lumitra::programState().running, m_pages->totalItemCount());
     if (refusal != SaveRefusal::None) {
         lumitra::show_notice(m_dialogParent, refusalMessage(refusal));
         return refusal == SaveRefusal::Engraving ? SaveOutcome::RefusedEngraving
                                                  : SaveOutcome::RefusedNoData;
     }
     QString path =
-            m_askSavePath(m_dialogParent, tr("Save File"), startFolder(), tr("Files (*.lumitra)"));
+        m_askSavePath(m_dialogParent, tr("Save File"), startFolder(), tr("Files (*.lumitra)"));
     if (path.isEmpty())
         return SaveOutcome::Cancelled;
     const QString suffix = QLatin1Char('.') + projectExtension();
@@ -104,8 +104,8 @@ ProjectCommands::OpenOutcome ProjectCommands::open_project()
     if (refuseWhileEngraving())
         return OpenOutcome::Refused;
     const QString path =
-            m_askOpenPath(m_dialogParent, tr("Open File"), startFolder(),
-                          tr("Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))"));
+        m_askOpenPath(m_dialogParent, tr("Open File"), startFolder(),
+                      tr("Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))"));
     if (path.isEmpty())
         return OpenOutcome::Failed;
     return open_file(path);

@@ -28,7 +28,7 @@ public:
 
     // Asks for a path: (parent, caption, start folder, filter) -> path or "".
     using PathAsker =
-            std::function<QString(QWidget *, const QString &, const QString &, const QString &)>;
+        std::function<QString(QWidget *, const QString &, const QString &, const QString &)>;
 
     // `dialogParent` parents the dialogs and message boxes.
     ProjectCommands(DesignPages *pages, QWidget *dialogParent, QObject *parent = nullptr);

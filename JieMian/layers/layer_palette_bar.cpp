@@ -15,10 +15,10 @@ QString buttonStyle(int number)
     const QColor c = layerColor(number);
     return QStringLiteral("QPushButton { background-color: rgb(%1, %2, %3); color: %4;"
                           " border: none; font-size: 10px; padding: 0px; }")
-            .arg(c.red())
-            .arg(c.green())
-            .arg(c.blue())
-            .arg(layerUsesDarkText(number) ? QStringLiteral("black") : QStringLiteral("white"));
+        .arg(c.red())
+        .arg(c.green())
+        .arg(c.blue())
+        .arg(layerUsesDarkText(number) ? QStringLiteral("black") : QStringLiteral("white"));
 }
 } // namespace
 

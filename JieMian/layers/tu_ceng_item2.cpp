@@ -51,10 +51,10 @@ void TuCengItem2::refresh()
     ui->ceng->setText(layerLabel(m_layer->yanse));
     ui->ceng->setStyleSheet(QStringLiteral("color: white; background-color: rgb(%1, %2, %3);"
                                            " border-right: 1px solid #E6E6E6; font-size: %4px;")
-                                    .arg(c.red())
-                                    .arg(c.green())
-                                    .arg(c.blue())
-                                    .arg(fontPx));
+                                .arg(c.red())
+                                .arg(c.green())
+                                .arg(c.blue())
+                                .arg(fontPx));
     ui->mingcheng->setText(m_layer->mingcheng);
     ui->moshi->setCurrentIndex(m_layer->moshi);
     ui->shuchu->setChecked(m_layer->shuchu);

@@ -71,7 +71,7 @@ void Tu_Ceng_Zhi::setLayer(TuCeng *layer)
     setEnabled(layer != nullptr);
     if (!layer)
         return;
-    m_key = LayerKey {layer->yanse, layer->tupian};
+    m_key = LayerKey{layer->yanse, layer->tupian};
     m_loading = true;
     ui->moshi_Box->clear();
     ui->moshi_Box->addItems(modeLabelsForPanel(layer->tupian));

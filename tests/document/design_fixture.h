@@ -78,7 +78,7 @@ inline QList<Jk_tu_yuan *> addDesign(Jk_chang_jing &scene)
     auto *bitmap = new Jk_tu_yuan(sourceBitmap(), displayBitmap());
     bitmap->layer_id = 7;
 
-    const QList<Jk_tu_yuan *> items {rectangle, ellipse, star, bitmap};
+    const QList<Jk_tu_yuan *> items{rectangle, ellipse, star, bitmap};
     for (Jk_tu_yuan *item : items)
         scene.addItem(item);
     rebuildLayerList(&scene);

@@ -43,8 +43,8 @@ inline QByteArray lyingPng(quint32 width, quint32 height)
     header.append(char(8)); // bit depth
     header.append(char(6)); // RGBA
     header.append(QByteArray(3, '\0'));
-    return signature() + chunk("IHDR", header) +
-           chunk("IDAT", QByteArray::fromHex("789c6300010000050001")) + chunk("IEND", {});
+    return signature() + chunk("IHDR", header)
+           + chunk("IDAT", QByteArray::fromHex("789c6300010000050001")) + chunk("IEND", {});
 }
 
 } // namespace pngbytes

@@ -89,12 +89,12 @@ void TestDesignCommands::addSelectsOnlyNewItems()
 void TestDesignCommands::deleteRestoresStackingOrder_data()
 {
     QTest::addColumn<QVector<int>>("doomed"); // tags, bottom item is 0
-    QTest::newRow("middle") << QVector<int> {2};
-    QTest::newRow("bottom") << QVector<int> {0};
-    QTest::newRow("top") << QVector<int> {4};
-    QTest::newRow("two apart") << QVector<int> {0, 3};
-    QTest::newRow("neighbours") << QVector<int> {1, 2};
-    QTest::newRow("all") << QVector<int> {0, 1, 2, 3, 4};
+    QTest::newRow("middle") << QVector<int>{2};
+    QTest::newRow("bottom") << QVector<int>{0};
+    QTest::newRow("top") << QVector<int>{4};
+    QTest::newRow("two apart") << QVector<int>{0, 3};
+    QTest::newRow("neighbours") << QVector<int>{1, 2};
+    QTest::newRow("all") << QVector<int>{0, 1, 2, 3, 4};
 }
 
 void TestDesignCommands::deleteRestoresStackingOrder()

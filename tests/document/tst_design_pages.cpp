@@ -209,7 +209,7 @@ void TestDesignPages::saveRefusals()
         pages.currentScene()->addItemsUndoable({new Jk_tu_yuan(0)});
     programState().running = running;
     QCOMPARE(int(commands.save_project()), outcome);
-    QCOMPARE(m_messages, QStringList {message});
+    QCOMPARE(m_messages, QStringList{message});
     QCOMPARE(asked, 0);
     QVERIFY(!QFile::exists(m_dir.filePath(QStringLiteral("never.lumitra"))));
 }
@@ -220,17 +220,17 @@ void TestDesignPages::saveAsksForTheFile()
     ProjectCommands commands(&pages, nullptr);
     QStringList asked;
     commands.setSavePathAsker(
-            [&](QWidget *, const QString &caption, const QString &dir, const QString &filter) {
-                asked << caption << dir << filter;
-                return m_dir.filePath(QStringLiteral("plain"));
-            });
+        [&](QWidget *, const QString &caption, const QString &dir, const QString &filter) {
+            asked << caption << dir << filter;
+            return m_dir.filePath(QStringLiteral("plain"));
+        });
     pages.currentScene()->addItemsUndoable({new Jk_tu_yuan(0)});
     QVERIFY(programState().unsaved);
     QCOMPARE(commands.save_project(), ProjectCommands::SaveOutcome::Saved);
     QCOMPARE(asked,
-             (QStringList {QStringLiteral("Save File"),
-                           QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                           QStringLiteral("Files (*.lumitra)")}));
+             (QStringList{QStringLiteral("Save File"),
+                          QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                          QStringLiteral("Files (*.lumitra)")}));
     QVERIFY(QFile::exists(m_dir.filePath(QStringLiteral("plain.lumitra"))));
     QVERIFY(!programState().unsaved);
     QVERIFY(m_messages.isEmpty());
@@ -242,7 +242,7 @@ void TestDesignPages::cancelledOrFailedSaveChangesNothing()
     ProjectCommands commands(&pages, nullptr);
     pages.currentScene()->addItemsUndoable({new Jk_tu_yuan(0)});
     commands.setSavePathAsker(
-            [](QWidget *, const QString &, const QString &, const QString &) { return QString(); });
+        [](QWidget *, const QString &, const QString &, const QString &) { return QString(); });
     QCOMPARE(commands.save_project(), ProjectCommands::SaveOutcome::Cancelled);
     QVERIFY(programState().unsaved);
     commands.setSavePathAsker([&](QWidget *, const QString &, const QString &, const QString &) {
@@ -326,8 +326,8 @@ void TestDesignPages::openRefusedWhileEngraving()
     QCOMPARE(commands.open_file(writePng(QStringLiteral("x.png"))),
              ProjectCommands::OpenOutcome::Refused);
     QCOMPARE(asked, 0);
-    QCOMPARE(m_messages, (QStringList {QStringLiteral("设备雕刻中,暂时停止使用!"),
-                                       QStringLiteral("设备雕刻中,暂时停止使用!")}));
+    QCOMPARE(m_messages, (QStringList{QStringLiteral("设备雕刻中,暂时停止使用!"),
+                                      QStringLiteral("设备雕刻中,暂时停止使用!")}));
     QCOMPARE(pages.totalItemCount(), 0);
 }
 
@@ -338,10 +338,10 @@ void TestDesignPages::openDispatchesByExtension()
     QStringList asked;
     const QString png = writePng(QStringLiteral("photo.PNG"), QSize(100, 50));
     commands.setOpenPathAsker(
-            [&](QWidget *, const QString &caption, const QString &dir, const QString &filter) {
-                asked << caption << dir << filter;
-                return png;
-            });
+        [&](QWidget *, const QString &caption, const QString &dir, const QString &filter) {
+            asked << caption << dir << filter;
+            return png;
+        });
     QCOMPARE(commands.open_project(), ProjectCommands::OpenOutcome::Opened);
     QCOMPARE(asked.at(0), QStringLiteral("Open File"));
     QCOMPARE(asked.at(2),
@@ -366,7 +366,7 @@ void TestDesignPages::openDispatchesByExtension()
                                                   p.addEllipse(0, 0, 10, 10);
                                                   auto *item = new Jk_tu_yuan(p, 0);
                                                   item->setTransform(QTransform::fromScale(1, -1));
-                                                  return QList<Jk_tu_yuan *> {item};
+                                                  return QList<Jk_tu_yuan *>{item};
                                               });
     QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("d.svg"))),
              ProjectCommands::OpenOutcome::Opened);
@@ -387,7 +387,7 @@ void TestDesignPages::importerMessagesAreShown()
                                                   return QList<Jk_tu_yuan *>();
                                               });
     QCOMPARE(commands.open_file(QStringLiteral("/x/a.svg")), ProjectCommands::OpenOutcome::Failed);
-    QCOMPARE(m_messages, QStringList {QStringLiteral("too big")});
+    QCOMPARE(m_messages, QStringList{QStringLiteral("too big")});
     QCOMPARE(pages.currentUndoStack()->count(), 0);
 }
 

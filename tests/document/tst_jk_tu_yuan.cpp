@@ -66,15 +66,15 @@ void TestJkTuYuan::shapeConstructorCentres_data()
     QTest::addColumn<QPointF>("pos");
     // pos = (width/2 - w/2, height/2 - h/2 - height), integer halves of the area.
     QTest::newRow("square 400x400")
-            << 400 << 400 << 0 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
+        << 400 << 400 << 0 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
     QTest::newRow("circle 400x400")
-            << 400 << 400 << 1 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
+        << 400 << 400 << 1 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
     QTest::newRow("triangle 400x400")
-            << 400 << 400 << 2 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
+        << 400 << 400 << 2 << QRectF(0, 0, 100, 100) << QPointF(150, -250);
     QTest::newRow("square 300x181")
-            << 300 << 181 << 0 << QRectF(0, 0, 100, 100) << QPointF(100, -141);
+        << 300 << 181 << 0 << QRectF(0, 0, 100, 100) << QPointF(100, -141);
     QTest::newRow("circle 301x99")
-            << 301 << 99 << 1 << QRectF(0, 0, 100, 100) << QPointF(100, -100);
+        << 301 << 99 << 1 << QRectF(0, 0, 100, 100) << QPointF(100, -100);
 }
 
 void TestJkTuYuan::shapeConstructorCentres()
@@ -353,7 +353,7 @@ void TestJkTuYuan::paintByLayerRecord_data()
     QTest::addColumn<bool>("filled");
     const QRgb white = qRgb(255, 255, 255);
     QTest::newRow("no layers: current colour")
-            << false << 0 << 2 << 1 << qRgb(0, 0, 255) << white << false;
+        << false << 0 << 2 << 1 << qRgb(0, 0, 255) << white << false;
     QTest::newRow("line mode") << true << 0 << 2 << 1 << qRgb(255, 0, 0) << white << false;
     QTest::newRow("fill mode") << true << 1 << 2 << 1 << qRgb(255, 0, 0) << qRgb(255, 0, 0) << true;
     QTest::newRow("cross fill") << true << 2 << 9 << 0 << qRgb(0, 0, 160) << qRgb(0, 0, 160)
@@ -428,9 +428,9 @@ void TestJkTuYuan::rotationAccumulates_data()
 {
     QTest::addColumn<QList<double>>("angles");
     QTest::addColumn<double>("jiaoDu");
-    QTest::newRow("90 then 300") << QList<double> {90, 300} << 390.0;
-    QTest::newRow("never normalised") << QList<double> {180, 180, 180} << 540.0;
-    QTest::newRow("negative") << QList<double> {-45, 10} << -35.0;
+    QTest::newRow("90 then 300") << QList<double>{90, 300} << 390.0;
+    QTest::newRow("never normalised") << QList<double>{180, 180, 180} << 540.0;
+    QTest::newRow("negative") << QList<double>{-45, 10} << -35.0;
 }
 
 void TestJkTuYuan::rotationAccumulates()

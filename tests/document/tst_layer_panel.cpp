@@ -55,7 +55,7 @@ private:
         LayerRowsPanel rows;
         LayerPaletteBar palette;
         Tu_Ceng_Zhi panel;
-        LayerPanelController controller {&pages, &rows, &palette, &panel};
+        LayerPanelController controller{&pages, &rows, &palette, &panel};
         Jk_chang_jing *scene() { return pages.currentScene(); }
         Jk_tu_yuan *add(int layer, bool bitmap = false)
         {
@@ -84,7 +84,7 @@ QVector<LayerKey> TestLayerPanel::rowKeys(const LayerRowsPanel &rows)
 {
     QVector<LayerKey> keys;
     for (const TuCengItem2 *row : rows.rows())
-        keys.append(LayerKey {row->layer()->yanse, row->layer()->tupian});
+        keys.append(LayerKey{row->layer()->yanse, row->layer()->tupian});
     return keys;
 }
 
@@ -121,9 +121,9 @@ void TestLayerPanel::paletteButtons()
     const QString style = b->styleSheet();
     const QColor c = layerColor(number);
     QVERIFY(style.contains(
-            QStringLiteral("rgb(%1, %2, %3)").arg(c.red()).arg(c.green()).arg(c.blue())));
-    QVERIFY(style.contains(darkText ? QStringLiteral("color: black")
-                                    : QStringLiteral("color: white")));
+        QStringLiteral("rgb(%1, %2, %3)").arg(c.red()).arg(c.green()).arg(c.blue())));
+    QVERIFY(
+        style.contains(darkText ? QStringLiteral("color: black") : QStringLiteral("color: white")));
     QCOMPARE(bar.findChildren<QAbstractButton *>().size(), 30);
     auto *layout = qobject_cast<QHBoxLayout *>(bar.layout());
     QVERIFY(layout);
@@ -175,11 +175,11 @@ void TestLayerPanel::paletteMovesSelectionUndoably()
     QCOMPARE(c->layer_id, 5);
     QVERIFY(programState().unsaved);
     // Layer 5 joins behind layer 0; layer 2 lost its only item.
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{0, false}, {5, false}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{0, false}, {5, false}}));
     f.scene()->undoStack()->undo();
     QCOMPARE(a->layer_id, 0);
     QCOMPARE(c->layer_id, 2);
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{0, false}, {2, false}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{0, false}, {2, false}}));
     // Nothing selected: the current layer changes, no edit is made.
     f.scene()->clearSelection();
     const int commands = f.scene()->undoStack()->count();
@@ -197,15 +197,15 @@ void TestLayerPanel::rowsFollowTheLayerList()
     f.add(0, true);
     f.add(0);
     f.add(3);
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{3, false}, {0, true}, {0, false}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{3, false}, {0, true}, {0, false}}));
     QCOMPARE(f.rows.rowButtons()->buttons().size(), 3);
     QVERIFY(!f.rows.findChild<QWidget *>(QStringLiteral("header"))->isHidden());
     QCOMPARE(rowKeys(f.rows).size(), LayerList::instance().count());
     for (int i = 0; i < f.rows.rows().size(); ++i)
         QCOMPARE(f.rows.rows().at(i)->layer(), LayerList::instance().layers().at(i));
-    const QList<int> widths {50, 60, 50, 60, 50, 50};
-    const QStringList headers {"header_ceng",  "header_mingcheng", "header_shuchu",
-                               "header_moshi", "header_xianshi",   "header_delete"};
+    const QList<int> widths{50, 60, 50, 60, 50, 50};
+    const QStringList headers{"header_ceng",  "header_mingcheng", "header_shuchu",
+                              "header_moshi", "header_xianshi",   "header_delete"};
     for (int i = 0; i < headers.size(); ++i)
         QCOMPARE(f.rows.findChild<QLabel *>(headers.at(i))->minimumWidth(), widths.at(i));
 }
@@ -214,8 +214,8 @@ void TestLayerPanel::rowShowsItsRecord_data()
 {
     QTest::addColumn<bool>("bitmap");
     QTest::addColumn<QStringList>("modes");
-    QTest::newRow("vector") << false << QStringList {"线条", "填充", "交叉填充"};
-    QTest::newRow("bitmap") << true << QStringList {"黑白", "抖动", "轮廓", "灰度", "负像"};
+    QTest::newRow("vector") << false << QStringList{"线条", "填充", "交叉填充"};
+    QTest::newRow("bitmap") << true << QStringList{"黑白", "抖动", "轮廓", "灰度", "负像"};
 }
 
 void TestLayerPanel::rowShowsItsRecord()
@@ -312,7 +312,7 @@ void TestLayerPanel::deleteButtonRemovesTheLayersItems()
     QVERIFY(!row->layer()->tupian);
     QTest::mouseClick(row->deleteButton(), Qt::LeftButton);
     QCOMPARE(f.scene()->designItemCount(), 2);
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{4, false}, {2, true}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{4, false}, {2, true}}));
     f.scene()->undoStack()->undo();
     QCOMPARE(f.scene()->designItemCount(), 4);
     QCOMPARE(f.rows.rows().size(), 3);
@@ -352,11 +352,11 @@ void TestLayerPanel::frozenWhileRunning()
     f.add(1);
     programState().running = true;
     f.add(2);
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{1, false}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{1, false}}));
     QCOMPARE(LayerList::instance().count(), 1);
     programState().running = false;
     f.controller.rebuild();
-    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey> {{1, false}, {2, false}}));
+    QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{1, false}, {2, false}}));
 }
 
 void TestLayerPanel::eachPageKeepsItsLayers()

@@ -56,7 +56,7 @@ QVector<LayerKey> TestLayerRebuild::listKeys()
 {
     QVector<LayerKey> keys;
     for (const TuCeng *l : LayerList::instance().layers())
-        keys.append(LayerKey {l->yanse, l->tupian});
+        keys.append(LayerKey{l->yanse, l->tupian});
     return keys;
 }
 
@@ -64,10 +64,10 @@ void TestLayerRebuild::orderFollowsFirstItems_data()
 {
     QTest::addColumn<QVector<int>>("itemLayers"); // in the order added
     QTest::addColumn<QVector<int>>("listOrder");
-    QTest::newRow("one layer") << QVector<int> {5} << QVector<int> {5};
-    QTest::newRow("added order") << QVector<int> {3, 1, 2} << QVector<int> {3, 1, 2};
-    QTest::newRow("repeats") << QVector<int> {7, 7, 0, 7, 0, 29} << QVector<int> {7, 0, 29};
-    QTest::newRow("empty") << QVector<int> {} << QVector<int> {};
+    QTest::newRow("one layer") << QVector<int>{5} << QVector<int>{5};
+    QTest::newRow("added order") << QVector<int>{3, 1, 2} << QVector<int>{3, 1, 2};
+    QTest::newRow("repeats") << QVector<int>{7, 7, 0, 7, 0, 29} << QVector<int>{7, 0, 29};
+    QTest::newRow("empty") << QVector<int>{} << QVector<int>{};
 }
 
 void TestLayerRebuild::orderFollowsFirstItems()
@@ -94,7 +94,7 @@ void TestLayerRebuild::bitmapAndVectorOnOneNumberGiveTwoLayers()
     scene.addItem(bitmapItem(0));
     scene.addItem(vectorItem(0));
     QVERIFY(rebuildLayerList(&scene));
-    QCOMPARE(listKeys(), (QVector<LayerKey> {{0, true}, {0, false}}));
+    QCOMPARE(listKeys(), (QVector<LayerKey>{{0, true}, {0, false}}));
     TuCeng *bitmap = LayerList::instance().find(0, true);
     TuCeng *vector = LayerList::instance().find(0, false);
     QVERIFY(bitmap && vector && bitmap != vector);
@@ -130,7 +130,7 @@ void TestLayerRebuild::lastItemGoneDropsLayerAndDefaultsReturn()
     delete b;
     QVERIFY(rebuildLayerList(&scene));
     QVERIFY(!LayerList::instance().find(4, false));
-    QCOMPARE(listKeys(), (QVector<LayerKey> {{1, false}}));
+    QCOMPARE(listKeys(), (QVector<LayerKey>{{1, false}}));
 
     scene.addItem(vectorItem(4));
     rebuildLayerList(&scene);
@@ -156,7 +156,7 @@ void TestLayerRebuild::parametersSurviveWhileUsed()
     QCOMPARE(LayerList::instance().find(2, false), layer);
     QCOMPARE(layer->moshi, int(FillMode));
     QCOMPARE(layer->mingcheng, QStringLiteral("cut"));
-    QCOMPARE(listKeys(), (QVector<LayerKey> {{2, false}, {9, false}}));
+    QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {9, false}}));
 }
 
 void TestLayerRebuild::frozenWhileRunning()
@@ -169,10 +169,10 @@ void TestLayerRebuild::frozenWhileRunning()
     scene.addItem(bitmapItem(8));
     scene.removeItem(item);
     QVERIFY(!rebuildLayerList(&scene));
-    QCOMPARE(listKeys(), (QVector<LayerKey> {{6, false}}));
+    QCOMPARE(listKeys(), (QVector<LayerKey>{{6, false}}));
     programState().running = false;
     QVERIFY(rebuildLayerList(&scene));
-    QCOMPARE(listKeys(), (QVector<LayerKey> {{8, true}}));
+    QCOMPARE(listKeys(), (QVector<LayerKey>{{8, true}}));
     delete item;
 }
 

@@ -68,16 +68,16 @@ void TestOpenDispatch::registeredImporterIsUsed()
         seen.append(path);
         QPainterPath p;
         p.addRect(0, 0, 1, 1);
-        return QList<Jk_tu_yuan *> {new Jk_tu_yuan(p, 0), new Jk_tu_yuan(p, 0)};
+        return QList<Jk_tu_yuan *>{new Jk_tu_yuan(p, 0), new Jk_tu_yuan(p, 0)};
     });
     QCOMPARE(dispatch.kindOf(QStringLiteral("drawing.svg")), OpenKind::Import);
     QVERIFY(dispatch.extensions().contains(QStringLiteral("svg")));
     QVERIFY(dispatch.extensions().contains(QStringLiteral("lumitra")));
     QString message;
     const QList<Jk_tu_yuan *> items = dispatch.importerFor(QStringLiteral("/d/drawing.Svg"))(
-            QStringLiteral("/d/drawing.Svg"), &message);
+        QStringLiteral("/d/drawing.Svg"), &message);
     QCOMPARE(items.size(), 2);
-    QCOMPARE(seen, QStringList {QStringLiteral("/d/drawing.Svg")});
+    QCOMPARE(seen, QStringList{QStringLiteral("/d/drawing.Svg")});
     qDeleteAll(items);
     dispatch.unregisterImporter(QStringLiteral("svg"));
     QCOMPARE(dispatch.kindOf(QStringLiteral("drawing.svg")), OpenKind::Unsupported);

@@ -126,8 +126,8 @@ void TestProjectFile::layoutIsExact()
         bool tupian, shuchu, shanchu, xianshi, danxiang;
         double saomiao, jianju;
         QString mingcheng;
-        in >> sudu >> moshi >> tupian >> gonglv >> shuchu >> shanchu >> yanse >> xianshi >>
-                mingcheng >> danxiang >> saomiao >> fangxiang >> jianju >> cishu >> s;
+        in >> sudu >> moshi >> tupian >> gonglv >> shuchu >> shanchu >> yanse >> xianshi
+            >> mingcheng >> danxiang >> saomiao >> fangxiang >> jianju >> cishu >> s;
         QCOMPARE(sudu, l.sudu);
         QCOMPARE(moshi, l.moshi);
         QCOMPARE(tupian, l.tupian);
@@ -262,7 +262,7 @@ void TestProjectFile::pagesComeBackByName()
     second.addItem(new Jk_tu_yuan(2));
     TuCeng layer(4, false);
     layer.gonglv = 44;
-    QList<ProjectPageOut> pages {ProjectPageOut(), ProjectPageOut()};
+    QList<ProjectPageOut> pages{ProjectPageOut(), ProjectPageOut()};
     pages[0].name = QStringLiteral("front");
     pages[0].items = first.designItems();
     pages[1].name = QStringLiteral("back");
@@ -342,7 +342,7 @@ void TestProjectFile::failedSaveKeepsTheOldFile()
             noise.setPixel(x, y, random.generate());
     big.addItem(new Jk_tu_yuan(noise));
     std::signal(SIGXFSZ, SIG_IGN);
-    rlimit saved {};
+    rlimit saved{};
     getrlimit(RLIMIT_FSIZE, &saved);
     rlimit tight = saved;
     tight.rlim_cur = 4096;
@@ -353,7 +353,7 @@ void TestProjectFile::failedSaveKeepsTheOldFile()
     QVERIFY(!result.error.isEmpty());
     QVERIFY(f.open(QIODevice::ReadOnly));
     QCOMPARE(f.readAll(), old);
-    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList {QStringLiteral("keep.lumitra")});
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("keep.lumitra")});
 #else
     QSKIP("needs a file size limit");
 #endif
@@ -369,7 +369,7 @@ void TestProjectFile::unopenableFileIsIgnored()
     scene.addItem(new Jk_tu_yuan(0));
     QVERIFY(!saveProjectFile(dir.filePath(QStringLiteral("no/such/dir/x.lumitra")),
                              currentPage(scene, QStringLiteral("p")))
-                     .ok);
+                 .ok);
 }
 
 void TestProjectFile::cutAtEveryByte()
@@ -389,13 +389,13 @@ void TestProjectFile::cutAtEveryByte()
     for (int cut = 0; cut <= bytes.size(); ++cut) {
         const QByteArray part = bytes.left(cut);
         const ProjectReadResult r = readBytes(part);
-        const int expectedItems = int(std::count_if(itemEnds.begin(), itemEnds.end(),
-                                                    [cut](int at) { return at <= cut; }));
+        const int expectedItems = int(
+            std::count_if(itemEnds.begin(), itemEnds.end(), [cut](int at) { return at <= cut; }));
         const int count = r.itemCount();
         QVERIFY2(count == expectedItems, qPrintable(QStringLiteral("cut %1: %2 items, expected %3")
-                                                            .arg(cut)
-                                                            .arg(count)
-                                                            .arg(expectedItems)));
+                                                        .arg(cut)
+                                                        .arg(count)
+                                                        .arg(expectedItems)));
         QVERIFY(count >= previous);
         previous = count;
         if (!r.pages.isEmpty()) {

@@ -111,7 +111,7 @@ void TestProjectStream::corruptPathsAreRefused_data()
     QTest::newRow("starts with a line") << elements({{1, 0, 0}, {1, 1, 1}}, 0, 0);
     QTest::newRow("curve without control points") << elements({{0, 0, 0}, {2, 1, 1}}, 0, 0);
     QTest::newRow("curve with one control point")
-            << elements({{0, 0, 0}, {2, 1, 1}, {3, 2, 2}, {1, 3, 3}}, 0, 0);
+        << elements({{0, 0, 0}, {2, 1, 1}, {3, 2, 2}, {1, 3, 3}}, 0, 0);
     QTest::newRow("control point alone") << elements({{0, 0, 0}, {3, 1, 1}}, 0, 0);
     QTest::newRow("unknown element type") << elements({{0, 0, 0}, {7, 1, 1}}, 0, 0);
     QTest::newRow("NaN coordinate") << elements({{0, 0, 0}, {1, nan, 1}}, 0, 0);
@@ -120,7 +120,7 @@ void TestProjectStream::corruptPathsAreRefused_data()
     QTest::newRow("subpath start on a line") << elements({{0, 0, 0}, {1, 1, 1}}, 1, 0);
     QTest::newRow("unknown fill rule") << elements({{0, 0, 0}, {1, 1, 1}}, 0, 3);
     QTest::newRow("more elements claimed than sent")
-            << elements({{0, 0, 0}, {1, 1, 1}}, 0, 0, 1000);
+        << elements({{0, 0, 0}, {1, 1, 1}}, 0, 0, 1000);
     QTest::newRow("two billion elements") << elements({{0, 0, 0}}, 0, 0, 0x7fffffff);
     QTest::newRow("negative count") << elements({}, 0, 0, -3);
     QTest::newRow("cut in the count") << QByteArray("\x02\x00", 2);
@@ -203,7 +203,7 @@ void TestProjectStream::corruptImagesAreRefused_data()
     QTest::newRow("damaged image data") << withMarker(badCrc);
     QTest::newRow("header claims 20000 x 20000") << withMarker(pngbytes::lyingPng(20000, 20000));
     QTest::newRow("header claims 2^31 x 2^31")
-            << withMarker(pngbytes::lyingPng(0x7fffffff, 0x7fffffff));
+        << withMarker(pngbytes::lyingPng(0x7fffffff, 0x7fffffff));
     QTest::newRow("zero width") << withMarker(pngbytes::lyingPng(0, 10));
     QByteArray noHeader = pngbytes::signature() + pngbytes::chunk("IEND", {});
     QTest::newRow("no header chunk") << withMarker(noHeader);
@@ -231,7 +231,7 @@ void TestProjectStream::transforms_data()
     QTest::newRow("NaN") << QTransform(std::numeric_limits<double>::quiet_NaN(), 0, 0, 1, 0, 0)
                          << false;
     QTest::newRow("infinite shift")
-            << QTransform(1, 0, 0, 1, std::numeric_limits<double>::infinity(), 0) << false;
+        << QTransform(1, 0, 0, 1, std::numeric_limits<double>::infinity(), 0) << false;
 }
 
 void TestProjectStream::transforms()

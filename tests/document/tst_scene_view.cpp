@@ -84,7 +84,7 @@ private:
     struct Fixture
     {
         Jk_chang_jing scene;
-        Jk_shi_tu view {&scene};
+        Jk_shi_tu view{&scene};
         Fixture()
         {
             view.resize(600, 500);
@@ -215,8 +215,8 @@ void TestSceneView::fitShowsWholeWorkArea()
     const QRect viewport = f.view.viewport()->rect();
     QVERIFY2(viewport.contains(shown), "work area cut off");
     // It fills most of the viewport along the tighter direction.
-    const double fill = qMax(double(shown.width()) / viewport.width(),
-                             double(shown.height()) / viewport.height());
+    const double fill =
+        qMax(double(shown.width()) / viewport.width(), double(shown.height()) / viewport.height());
     QVERIFY2(fill > 0.85, qPrintable(QString::number(fill)));
     // Centred.
     QVERIFY(qAbs(shown.center().x() - viewport.center().x()) <= 2);
@@ -277,15 +277,15 @@ void TestSceneView::rubberBand_data()
     QTest::addColumn<QVector<int>>("selected"); // item indexes
     // Items: 0 square (10,-90)-(30,-70), 1 square (50,-90)-(70,-70),
     // 2 horizontal line (10,-40)-(70,-40).
-    QTest::newRow("encloses first") << QRectF(5, -95, 30, 30) << false << QVector<int> {0};
+    QTest::newRow("encloses first") << QRectF(5, -95, 30, 30) << false << QVector<int>{0};
     QTest::newRow("touches first, left to right")
-            << QRectF(20, -95, 20, 30) << false << QVector<int> {};
+        << QRectF(20, -95, 20, 30) << false << QVector<int>{};
     QTest::newRow("touches first, right to left")
-            << QRectF(20, -95, 20, 30) << true << QVector<int> {0};
-    QTest::newRow("encloses all") << QRectF(0, -100, 80, 70) << false << QVector<int> {0, 1, 2};
+        << QRectF(20, -95, 20, 30) << true << QVector<int>{0};
+    QTest::newRow("encloses all") << QRectF(0, -100, 80, 70) << false << QVector<int>{0, 1, 2};
     QTest::newRow("crosses line right to left")
-            << QRectF(30, -45, 10, 10) << true << QVector<int> {2};
-    QTest::newRow("empty canvas") << QRectF(100, -300, 50, 50) << false << QVector<int> {};
+        << QRectF(30, -45, 10, 10) << true << QVector<int>{2};
+    QTest::newRow("empty canvas") << QRectF(100, -300, 50, 50) << false << QVector<int>{};
 }
 
 void TestSceneView::rubberBand()
@@ -413,7 +413,7 @@ void TestSceneView::dropPassesOpenableFiles()
     QApplication::sendEvent(f.view.viewport(), &drop);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).toStringList(),
-             (QStringList {QStringLiteral("/tmp/a.PNG"), QStringLiteral("/tmp/b.lumitra")}));
+             (QStringList{QStringLiteral("/tmp/a.PNG"), QStringLiteral("/tmp/b.lumitra")}));
 
     QMimeData text;
     text.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/notes.txt"))});

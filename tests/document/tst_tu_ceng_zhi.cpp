@@ -127,15 +127,15 @@ void TestTuCengZhi::fillsFromRecord()
     QVERIFY(child<QCheckBox>(panel, "xianshi_Box")->isChecked());
     QVERIFY(!child<QSpinBox>(panel, "fangxiang_Box")->isReadOnly());
     QCOMPARE(child<QSpinBox>(panel, "fangxiang_Box")->text(), QStringLiteral("45"));
-    QCOMPARE(panel.layerKey(), (LayerKey {12, false}));
+    QCOMPARE(panel.layerKey(), (LayerKey{12, false}));
 }
 
 void TestTuCengZhi::modeLabelsFollowLayerKind_data()
 {
     QTest::addColumn<bool>("bitmap");
     QTest::addColumn<QStringList>("labels");
-    QTest::newRow("vector") << false << QStringList {"线条", "填充", "交叉填充"};
-    QTest::newRow("bitmap") << true << QStringList {"黑白", "抖动", "轮廓", "灰度", "负向"};
+    QTest::newRow("vector") << false << QStringList{"线条", "填充", "交叉填充"};
+    QTest::newRow("bitmap") << true << QStringList{"黑白", "抖动", "轮廓", "灰度", "负向"};
 }
 
 void TestTuCengZhi::modeLabelsFollowLayerKind()
