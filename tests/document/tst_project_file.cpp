@@ -387,8 +387,8 @@ void TestProjectFile::cutAtEveryByte()
     QCOMPARE(itemEnds.size(), originals.size());
     int previous = 0;
     for (int cut = 0; cut <= bytes.size(); ++cut) {
-        const QByteArray part = bytes.left(cut);
-        const ProjectReadResult r = readBytes(part);
+        const QByteArray prefix = bytes.left(cut);
+        const ProjectReadResult r = readBytes(prefix);
         const int expectedItems = int(
             std::count_if(itemEnds.begin(), itemEnds.end(), [cut](int at) { return at <= cut; }));
         const int count = r.itemCount();
@@ -404,7 +404,7 @@ void TestProjectFile::cutAtEveryByte()
                 QCOMPARE(page.items.at(i)->path, originals.at(i)->path);
                 QCOMPARE(page.items.at(i)->pos(), originals.at(i)->pos());
             }
-            QCOMPARE(page.layers.size(), qMin(part.count(layerEnd), layers.size()));
+            QCOMPARE(page.layers.size(), qMin(prefix.count(layerEnd), layers.size()));
         }
         if (cut == bytes.size()) {
             QVERIFY(r.complete);
