@@ -57,14 +57,48 @@ struct AxisStepper
     }
 };
 
+// Runs along a line that stays in one pixel row (by == 0): only the pixels
+// where the level changes need their border computed.
+int collectRowRuns(const LevelMap &map, const AxisStepper &sx, int row, double lo, double hi,
+                   std::vector<Run> &runs)
+{
+    const unsigned char *levels = map.levels.data() + size_t(row) * size_t(map.width);
+    const int step = sx.step;
+    int count = 0;
+    int at = sx.index;
+    unsigned char level = levels[at];
+    double runStart = lo;
+    for (;;) {
+        int next = at + step;
+        while (next >= 0 && next < map.width && levels[next] == level)
+            next += step;
+        if (next < 0 || next >= map.width)
+            break;
+        // The border between two pixels: moving right, the left edge of `next`.
+        const double border = (double(step > 0 ? next : next + 1) - sx.origin) * sx.inverse;
+        if (!(border < hi))
+            break;
+        if (border - runStart > kMinRunLength)
+            runs[size_t(count++)] = {runStart, border, level};
+        runStart = border;
+        level = levels[next];
+        at = next;
+    }
+    if (hi - runStart > kMinRunLength)
+        runs[size_t(count++)] = {runStart, hi, level};
+    return count;
+}
+
 // Splits the scan line p(x) = (ax + bx x, ay + by x), x in [lo, hi), into runs
 // of equal level. `runs` has room for a run per pixel crossed; returns the count.
 int collectRuns(const LevelMap &map, double ax, double bx, double ay, double by, double lo,
                 double hi, std::vector<Run> &runs)
 {
-    int count = 0;
     AxisStepper sx(ax, bx, lo, map.width);
     AxisStepper sy(ay, by, lo, map.height);
+    if (sy.step == 0 && sx.step != 0)
+        return collectRowRuns(map, sx, sy.index, lo, hi, runs);
+    int count = 0;
     unsigned char level = map.at(sx.index, sy.index);
     double runStart = lo;
     double nextX = sx.next();

@@ -1,10 +1,14 @@
 // The path emitter: words and numbers, curves, flushes, cancel, rotary bump.
+#include "compaction_reference.h"
+#include "curve_sampling.h"
+#include "gcode_number.h"
 #include "job_output.h"
 #include "path_emitter.h"
 #include "recording_device.h"
 #include "tu_ceng.h"
 
 #include <QPainterPath>
+#include <QRandomGenerator>
 #include <QtTest>
 #include <cmath>
 
@@ -57,6 +61,8 @@ private slots:
     void streamedSteps_data();
     void streamedSteps();
     void cancelStopsAfterCurrentElement();
+    void matchesCompactedFullText_data();
+    void matchesCompactedFullText();
 };
 
 void TestPathEmitter::lines_data()
@@ -242,6 +248,108 @@ void TestPathEmitter::cancelStopsAfterCurrentElement()
     device.writes.clear();
     emitter.emitPath(polyline({{0, 0}, {1, 1}}));
     QVERIFY(device.writes.isEmpty());
+}
+
+void TestPathEmitter::matchesCompactedFullText_data()
+{
+    QTest::addColumn<int>("seed");
+    QTest::addColumn<int>("elements");
+    QTest::newRow("short") << 1 << 50;
+    QTest::newRow("several flushes") << 2 << 6000;
+    QTest::newRow("many flushes") << 3 << 20000;
+}
+
+void TestPathEmitter::matchesCompactedFullText()
+{
+    // The emitter leaves out words as it writes; its job must equal the plain
+    // way: every line with all its words, cut into pieces after the element
+    // that passes 30000 characters, each piece compacted by the word pattern.
+    QFETCH(int, seed);
+    QFETCH(int, elements);
+    QRandomGenerator rng{quint32(seed)};
+    const TuCeng l = layer(37, 2750);
+    const QByteArray full = "S" + fixedText(370.0, 2) + "F" + fixedText(2750.0, 2) + "\n";
+    const QByteArray zero = "S" + fixedText(0.0, 2) + "F" + fixedText(2750.0, 2) + "\n";
+
+    RecordingDevice device;
+    JobOutput output(device, RotarySettings());
+    PathEmitter emitter(output, RotarySettings(), nullptr);
+    emitter.setLayer(l);
+    emitter.beginPath();
+
+    QString expected;
+    QByteArray piece;
+    auto value = [&] {
+        // Few distinct values, so that words repeat, and some that differ
+        // only in their last digit or in sign.
+        const double grid[] = {0.0, -0.0, 1.0, 1.004, 1.006, -1.0, 12.5, 300.25, -0.001};
+        return rng.bounded(3) == 0 ? rng.generateDouble() * 400 - 200 : grid[rng.bounded(9)];
+    };
+    auto line = [](const char *motion, double x, double y, const QByteArray &words) {
+        return QByteArray(motion) + fixedText(x, 2) + "Y" + fixedText(-y, 2) + words;
+    };
+    for (int i = 0; i < elements; ++i) {
+        const double x = value();
+        const double y = value();
+        switch (rng.bounded(5)) {
+        case 0:
+            emitter.travel(x, y);
+            piece += line("G0X", x, y, full);
+            break;
+        case 1:
+            emitter.burn(x, y);
+            piece += line("G1X", x, y, full);
+            break;
+        case 2:
+            emitter.coast(x, y);
+            piece += line("G1X", x, y, zero);
+            break;
+        case 3: {
+            const int grey = rng.bounded(256);
+            emitter.burnGrey(x, y, grey);
+            piece += line("G1X", x, y,
+                          "S" + fixedText(370.0 * (255 - grey) / 255, 2) + "F"
+                              + fixedText(2750.0, 2) + "\n");
+            break;
+        }
+        default: {
+            // A curve through the emitter's whole-path entry, as its own path.
+            emitter.endPath();
+            expected += referenceCompaction(QString::fromLatin1(piece));
+            piece.clear();
+            // Short curves (a few dozen samples), some of them of zero length.
+            auto near = [&](double at) { return at + (rng.bounded(4) == 0 ? 0 : value() / 20); };
+            QPainterPath curve(QPointF(x, y));
+            const QPointF c1(near(x), near(y)), c2(near(x), near(y)), end(near(x), near(y));
+            curve.cubicTo(c1, c2, end);
+            emitter.emitPath(curve);
+            QVector<QPointF> samples; // Qt leaves out a curve that stays on its start point
+            if (curve.elementCount() == 4)
+                sampleCubicByLength({x, y}, c1, c2, end, kCurveSampleStep, samples);
+            QByteArray curvePiece = line("G0X", x, y, full);
+            for (const QPointF &p : samples)
+                curvePiece += line("G1X", p.x(), p.y(), "\n");
+            expected += referenceCompaction(QString::fromLatin1(curvePiece));
+            emitter.beginPath();
+            continue;
+        }
+        }
+        if (piece.size() > PathEmitter::kFlushThreshold) {
+            expected += referenceCompaction(QString::fromLatin1(piece));
+            piece.clear();
+        }
+    }
+    emitter.endPath();
+    expected += referenceCompaction(QString::fromLatin1(piece));
+    const QStringList got = QString::fromLatin1(device.all()).split(QLatin1Char('\n'));
+    const QStringList want = expected.split(QLatin1Char('\n'));
+    for (int i = 0; i < qMin(got.size(), want.size()); ++i) {
+        if (got[i] != want[i])
+            QFAIL(qPrintable(QStringLiteral("line %1: %2 instead of %3 (after %4)")
+                                 .arg(i + 1)
+                                 .arg(got[i], want[i], i > 0 ? want[i - 1] : QString())));
+    }
+    QCOMPARE(got.size(), want.size());
 }
 
 QTEST_GUILESS_MAIN(TestPathEmitter)
