@@ -105,7 +105,7 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
     }
     output.writeText(kTrailer);
 
-    if (output.failed() || !file.commit()) {
+    if (!output.finish() || !file.commit()) {
         m_lastError = file.errorString();
         file.cancelWriting();
         qDebug() << "gcode: writing failed" << file.fileName() << m_lastError;

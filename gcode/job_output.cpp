@@ -7,32 +7,62 @@
 
 namespace lumitra {
 
+namespace {
+constexpr int kBlockSize = 1 << 20;
+}
+
 JobOutput::JobOutput(QIODevice &device, const RotarySettings &rotary)
     : m_device(device)
     , m_rotary(rotary)
 {
+    m_pending.reserve(kBlockSize + (kBlockSize >> 2));
+}
+
+JobOutput::~JobOutput()
+{
+    finish();
+}
+
+void JobOutput::writeOut()
+{
+    if (m_failed || m_pending.isEmpty())
+        return;
+    if (m_device.write(m_pending) != m_pending.size()) {
+        qDebug() << "gcode: write failed" << m_device.errorString();
+        m_failed = true;
+    }
+    m_written += m_pending.size();
+    m_pending.resize(0);
 }
 
 void JobOutput::writeText(const QByteArray &bytes)
 {
-    if (m_failed || bytes.isEmpty())
+    if (m_failed)
         return;
-    if (m_device.write(bytes) != bytes.size()) {
-        qDebug() << "gcode: write failed" << m_device.errorString();
-        m_failed = true;
-        return;
-    }
-    m_written += bytes.size();
+    m_pending += bytes;
+    if (m_pending.size() >= kBlockSize)
+        writeOut();
 }
 
 void JobOutput::writePiece(const char *data, int size)
 {
-    m_compacted.resize(0);
-    appendCompacted(data, size, m_compacted);
-    if (m_rotary.rewrites())
+    if (m_failed)
+        return;
+    if (m_rotary.rewrites()) {
+        m_compacted.resize(0);
+        appendCompacted(data, size, m_compacted);
         writeText(rewriteForRotary(m_compacted, m_rotary));
-    else
-        writeText(m_compacted);
+        return;
+    }
+    appendCompacted(data, size, m_pending);
+    if (m_pending.size() >= kBlockSize)
+        writeOut();
+}
+
+bool JobOutput::finish()
+{
+    writeOut();
+    return !m_failed;
 }
 
 } // namespace lumitra
