@@ -4,17 +4,16 @@
 #include "program_state.h"
 #include "read_txt_thread.h"
 #include "send_loop.h"
+#include "serial_port_worker.h"
 #include "stream_state.h"
 #include "win32_control_lines.h"
 
 #include <QDebug>
-#include <QSerialPort>
 
 using lumitra::grbl::SerialLine;
 
 namespace {
 
-constexpr int kReadBufferSize = 1024;
 constexpr int kFirstChunkDelayMs = 100;
 // After a soft reset nothing is sent until the controller's banner, at most this long.
 constexpr int kResetHoldMs = 1000;
@@ -28,12 +27,25 @@ Jk_com::Jk_com(QObject *parent) : QThread(parent), m_stream(std::make_shared<Str
     connect(&m_pollTimer, &QTimer::timeout, this, &Jk_com::requestStatus);
     m_handshakeTimer.setSingleShot(true);
     connect(&m_handshakeTimer, &QTimer::timeout, this, &Jk_com::onHandshakeTimeout);
-    connect(this, &Jk_com::xie_xin_hao, this, &Jk_com::xie_cao, Qt::QueuedConnection);
+
+    m_worker = new SerialPortWorker(m_stream);
+    m_worker->moveToThread(&m_ioThread);
+    connect(&m_ioThread, &QThread::finished, m_worker, &QObject::deleteLater);
+    connect(this, &Jk_com::xie_xin_hao, m_worker, &SerialPortWorker::writeStreamLine,
+            Qt::QueuedConnection);
+    connect(m_worker, &SerialPortWorker::linesReceived, this, &Jk_com::onLines,
+            Qt::QueuedConnection);
+    connect(m_worker, &SerialPortWorker::portFailed, this, &Jk_com::onPortFailed,
+            Qt::QueuedConnection);
+    m_ioThread.setObjectName(QStringLiteral("serial port"));
+    m_ioThread.start();
 }
 
 Jk_com::~Jk_com()
 {
     shutDown();
+    m_ioThread.quit();
+    m_ioThread.wait();
     if (m_reader)
         m_reader->wait();
 }
@@ -50,12 +62,7 @@ int Jk_com::pollInterval() const
 
 bool Jk_com::isOpen() const
 {
-    return m_port && m_port->isOpen();
-}
-
-QString Jk_com::portName() const
-{
-    return m_port ? m_port->portName() : QString();
+    return m_worker->isOpen();
 }
 
 bool Jk_com::connectPort(const QString &portName)
@@ -64,26 +71,14 @@ bool Jk_com::connectPort(const QString &portName)
 #ifdef Q_OS_WIN
     resetFixedPortControlLines();
 #endif
-    m_port = new QSerialPort(portName, this);
-    m_port->setReadBufferSize(kReadBufferSize);
-    m_port->setBaudRate(QSerialPort::Baud115200);
-    m_port->setDataBits(QSerialPort::Data8);
-    m_port->setParity(QSerialPort::NoParity);
-    m_port->setStopBits(QSerialPort::OneStop);
-    m_port->setFlowControl(QSerialPort::NoFlowControl);
+    m_portName = portName;
     m_lastError.clear();
-    if (!m_port->open(QIODevice::ReadWrite)) {
-        m_lastError = m_port->errorString();
-        qDebug() << "SerialPortError" << m_port->error() << m_lastError;
-    }
-    connect(m_port, &QSerialPort::readyRead, this, &Jk_com::jie_shou);
-    connect(m_port, &QSerialPort::errorOccurred, this,
-            [this](QSerialPort::SerialPortError e) { onPortError(int(e)); });
-    if (!m_port->isOpen())
+    bool opened = false;
+    QMetaObject::invokeMethod(
+        m_worker, [&] { opened = m_worker->open(portName, &m_lastError); },
+        Qt::BlockingQueuedConnection);
+    if (!opened)
         return false;
-
-    qDebug() << "DTR" << (m_port->isDataTerminalReady() ? "true" : "false") << "RTS"
-             << (m_port->isRequestToSend() ? "true" : "false");
     m_handshakeDone = false;
     sendIdentify();
     m_handshakeTimer.start(m_handshakeTimeoutMs);
@@ -117,16 +112,10 @@ void Jk_com::shutDown()
     forgetStaleLines();
     m_stream->releaseResetHold();
     m_fileRunActive = false;
-    m_assembler.clear();
     m_receivedLines.clear();
     m_handshakeDone = false;
-    if (m_port) {
-        m_port->disconnect(this);
-        if (m_port->isOpen())
-            m_port->close();
-        m_port->deleteLater();
-        m_port = nullptr;
-    }
+    QMetaObject::invokeMethod(
+        m_worker, [this] { m_worker->close(); }, Qt::BlockingQueuedConnection);
 }
 
 void Jk_com::onHandshakeTimeout()
@@ -138,16 +127,11 @@ void Jk_com::onHandshakeTimeout()
     emit yi_lian_jie(false);
 }
 
-void Jk_com::onPortError(int error)
+void Jk_com::onPortFailed(quint64 session, const QString &reason)
 {
-    if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError &&
-        error != QSerialPort::WriteError)
+    if (session != m_worker->session())
         return;
-    if (!isOpen())
-        return;
-    const QString reason = m_port->errorString();
     m_lastError = reason;
-    qDebug() << " out port lost" << portName() << reason;
     const bool wasLinked = m_handshakeDone;
     shutDown();
     if (wasLinked)
@@ -156,11 +140,11 @@ void Jk_com::onPortError(int error)
         emit yi_lian_jie(false);
 }
 
-void Jk_com::jie_shou()
+void Jk_com::onLines(quint64 session, const QStringList &lines)
 {
-    if (!m_port)
-        return;
-    m_receivedLines.append(m_assembler.feed(m_port->readAll()));
+    if (session != m_worker->session() || !isOpen())
+        return; // read on a port closed since
+    m_receivedLines.append(lines);
     if (m_dispatching)
         return; // the outer call classifies them, in order
     m_dispatching = true;
@@ -211,9 +195,9 @@ void Jk_com::handleLine(const QString &line)
 
 void Jk_com::handleOk()
 {
+    // The port worker has already released the line's in-flight bytes.
     if (m_info.countOk())
         emit shu_chu_can_shu(m_info.map());
-    m_stream->releaseOldest();
     checkJobFinished();
 }
 
@@ -245,11 +229,7 @@ void Jk_com::completeHandshake()
 void Jk_com::faultReset(const QString &line, bool writeReset)
 {
     stopReader();
-    if (writeReset)
-        writeResetByte();
-    m_stream->clear();
-    forgetStaleLines();
-    m_fileRunActive = false;
+    resetStream(writeReset);
     queueText(lumitra::grbl::unlockText());
     emit deviceFault(line);
     emit shu_chu_zhuang_tai(QStringLiteral("Alarm"));
@@ -257,29 +237,25 @@ void Jk_com::faultReset(const QString &line, bool writeReset)
 
 void Jk_com::xie_cao(const QString &text)
 {
-    if (sender() == this) {
-        // A line of the send loop: skip those emitted before the last stop.
-        if (++m_linesDelivered <= m_staleUntil)
-            return;
-    }
-    if (isOpen())
-        m_port->write(text.toUtf8());
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker, text] { worker->writeText(text); }, Qt::QueuedConnection);
 }
 
 void Jk_com::forgetStaleLines()
 {
-    m_staleUntil = m_linesEmitted.load();
+    m_worker->forgetLinesUpTo(m_linesEmitted.load());
 }
 
 void Jk_com::writeRealTime(char byte)
 {
-    if (isOpen())
-        m_port->write(&byte, 1);
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker, byte] { worker->writeByte(byte); }, Qt::QueuedConnection);
 }
 
 void Jk_com::requestStatus()
 {
-    writeRealTime(lumitra::grbl::kStatusQuery);
+    if (isOpen())
+        writeRealTime(lumitra::grbl::kStatusQuery);
 }
 
 void Jk_com::feedHold()
@@ -292,21 +268,24 @@ void Jk_com::cycleStart()
     writeRealTime(lumitra::grbl::kCycleStart);
 }
 
-bool Jk_com::writeResetByte()
-{
-    if (!isOpen())
-        return false;
-    writeRealTime(lumitra::grbl::kSoftReset);
-    m_stream->holdForReset(kResetHoldMs);
-    return true;
-}
-
 void Jk_com::softReset()
 {
-    writeResetByte();
     stopReader();
+    resetStream(true);
+}
+
+void Jk_com::resetStream(bool writeReset)
+{
+    // Nothing taken before this point goes out after the reset byte: the
+    // stream is emptied and the lines already handed to the port are dropped
+    // first, then the byte is queued behind them.
+    const bool writeByte = writeReset && isOpen();
+    if (writeByte)
+        m_stream->holdForReset(kResetHoldMs);
     m_stream->clear();
     forgetStaleLines();
+    if (writeByte)
+        writeRealTime(lumitra::grbl::kSoftReset);
     m_fileRunActive = false;
 }
 

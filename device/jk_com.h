@@ -1,7 +1,6 @@
 #pragma once
 
 #include "device_info.h"
-#include "line_assembler.h"
 
 #include <QMap>
 #include <QPointer>
@@ -11,14 +10,17 @@
 #include <atomic>
 #include <memory>
 
-class QSerialPort;
 class ReadTxtThread;
+class SerialPortWorker;
 class StreamState;
 
 // The serial link to a GRBL controller. The object lives on the GUI thread,
-// which owns the port, the read handler, the timers and every public call; its
-// own thread (run) is the character-counting send loop, which hands each line
-// back to the GUI thread through the queued signal xie_xin_hao.
+// which runs every public call, the timers and the classification of received
+// lines; its own thread (run) is the character-counting send loop, which hands
+// each line on through the signal xie_xin_hao. The port itself sits on a third
+// thread (SerialPortWorker): it writes those lines and releases the in-flight
+// bytes of every "ok" there, so streaming keeps the wire busy even while the
+// GUI thread is blocked (a long repaint of a large design).
 //
 // Life: connectPort() opens the port and writes "$i\n"; the first "VER:" line
 // completes the handshake (yi_lian_jie(true), send loop and 500 ms "?" poll
@@ -64,7 +66,7 @@ public:
     bool jobRunning() const { return m_fileRunActive; }
     const QMap<QString, QString> &deviceInfo() const { return m_info.map(); }
     StreamState &stream() const { return *m_stream; }
-    QString portName() const;
+    QString portName() const { return m_portName; }
     // Why the last connectPort() failed, or why the link was lost.
     QString lastError() const { return m_lastError; }
 
@@ -92,8 +94,6 @@ signals:
     void jobFinished();
 
 public slots:
-    // Read handler: assembles lines and classifies them in order.
-    void jie_shou();
     // Write handler: `text` as UTF-8 when the port is open.
     void xie_cao(const QString &text);
 
@@ -101,6 +101,8 @@ protected:
     void run() override;
 
 private:
+    // The lines the port worker assembled, classified in order.
+    void onLines(quint64 session, const QStringList &lines);
     void handleLine(const QString &line);
     void handleOk();
     void handleOther(const QString &line);
@@ -108,19 +110,20 @@ private:
     void sendIdentify();
     void faultReset(const QString &line, bool writeReset);
     void writeRealTime(char byte);
-    bool writeResetByte();
+    void resetStream(bool writeReset);
     void startFileRun();
     void stopReader();
     void onReaderFinished();
     void checkJobFinished();
     void onHandshakeTimeout();
-    void onPortError(int error);
+    void onPortFailed(quint64 session, const QString &reason);
     void shutDown();
     void forgetStaleLines();
 
-    QSerialPort *m_port = nullptr;
+    QThread m_ioThread;
+    SerialPortWorker *m_worker = nullptr; // lives on m_ioThread
+    QString m_portName;
     QString m_lastError;
-    LineAssembler m_assembler;
     QStringList m_receivedLines; // assembled, not yet classified (keeps order on re-entry)
     bool m_dispatching = false;
     std::shared_ptr<StreamState> m_stream;
@@ -133,9 +136,7 @@ private:
     QPointer<ReadTxtThread> m_reader;
     bool m_fileRunActive = false;
     bool m_readerDone = false;
-    // Lines the send loop emitted and the GUI thread wrote; lines emitted before
-    // a stop are not written after it.
+    // Lines the send loop emitted; those emitted before a stop are not written
+    // after it.
     std::atomic<quint64> m_linesEmitted{0};
-    quint64 m_linesDelivered = 0;
-    quint64 m_staleUntil = 0;
 };

@@ -16,6 +16,7 @@ private slots:
     void slowControllerNeverOverrun_data();
     void slowControllerNeverOverrun();
     void stopMidJobThenRunAgain();
+    void streamsWhileGuiThreadBlocked();
     void missingFileSendsNothing();
 };
 
@@ -121,6 +122,27 @@ void TestStreaming::stopMidJobThenRunAgain()
     QCOMPARE(got.size(), second);
     QCOMPARE(got.first(), jobLine(0));
     QCOMPARE(got.last(), jobLine(second - 1));
+    QVERIFY(!fake.overrun());
+}
+
+void TestStreaming::streamsWhileGuiThreadBlocked()
+{
+    QTemporaryDir dir;
+    const int total = 20000;
+    lumitra::programState().jobFilePath = writeJobFile(dir, total);
+    GrblFake fake;
+    Jk_com com;
+    QVERIFY(linkTo(fake, com));
+    com.queueText("yunxing");
+    QTRY_VERIFY(fake.lineCount() > 10);
+    // The GUI thread stops processing events (as during a long repaint): the
+    // answers are still taken and the stream goes on far beyond one window of
+    // 127 bytes (about 7 lines).
+    const int before = fake.lineCount();
+    QThread::msleep(300);
+    const int during = fake.lineCount() - before;
+    QVERIFY2(during > 100, qPrintable(QString::number(during)));
+    com.softReset();
     QVERIFY(!fake.overrun());
 }
 
