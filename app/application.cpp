@@ -1,7 +1,9 @@
 #include "application.h"
 
 #include "command_line.h"
+#include "headless_run.h"
 #include "importer_registry.h"
+#include "job_export.h"
 #include "language.h"
 #include "qidongye.h"
 #include "unix_signals.h"
@@ -28,6 +30,27 @@ int printAndExit(const CommandLine &cl)
 {
     QTextStream(cl.exitCode == 0 ? stdout : stderr) << cl.message << '\n';
     return cl.exitCode;
+}
+
+// --export: the same generator the window uses, without a window.
+int runExport(const CommandLine &cl)
+{
+    load_work_area();
+    register_importers();
+    QString error;
+    if (!exportJob({cl.input, cl.output, cl.processOptions}, &error)) {
+        QTextStream(stderr) << error << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+// --port ... --run: streams a file through the same serial link as the window.
+int runSender(const CommandLine &cl)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return runJobHeadless(cl.port, cl.runFile, cl.home, out, err);
 }
 
 int runWindow(QApplication &app, const CommandLine &cl)
@@ -83,9 +106,9 @@ int run_application(int argc, char **argv)
     install_quit_on_terminate_signals();
     switch (cl.mode) {
     case CommandLine::Export:
+        return runExport(cl);
     case CommandLine::Run:
-        QTextStream(stderr) << "this headless mode is not available in this build\n";
-        return 2;
+        return runSender(cl);
     case CommandLine::Exit:
     case CommandLine::Window:
         break;

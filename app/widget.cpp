@@ -3,13 +3,19 @@
 
 #include "close_guard.h"
 #include "design_pages.h"
+#include "frame_area.h"
+#include "gcode_job_controller.h"
 #include "import_actions.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "language_controller.h"
 #include "layer_palette_bar.h"
 #include "layer_panel_controller.h"
+#include "layer_list.h"
 #include "layer_rows_panel.h"
+#include "machine_controller.h"
+#include "machine_panel.h"
+#include "message_box.h"
 #include "program_state.h"
 #include "project_commands.h"
 #include "tu_ceng_zhi.h"
@@ -34,6 +40,8 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     setupDesign();
     setupLayers();
     setupImport();
+    setupJobs();
+    setupMachine();
     buildFileMenu();
 }
 
@@ -72,6 +80,54 @@ void Widget::setupImport()
         if (Jk_chang_jing *scene = m_pages->currentScene())
             scene->addItemsUndoable(items);
     });
+}
+
+void Widget::setupJobs()
+{
+    m_jobs = new GcodeJobController(this, this);
+    connect(ui->saveGcode_Btn, &QPushButton::clicked, this,
+            [this] { m_jobs->saveGcode(currentDesignItems()); });
+    connect(ui->rotary_Btn, &QPushButton::clicked, m_jobs, &GcodeJobController::editRotary);
+    connect(ui->start_Btn, &QPushButton::clicked, this, &Widget::startJob);
+}
+
+void Widget::setupMachine()
+{
+    m_machinePanel = new MachinePanel(ui->machineHost);
+    ui->machineHostLayout->addWidget(m_machinePanel);
+    m_machine = new MachineController(m_machinePanel, this, this);
+    m_machine->setFrameSource(
+        [this] { return outputBounds(currentDesignItems(), LayerList::instance()); });
+    m_machine->setWifiAddress(ui->ip_Edit->text());
+    connect(ui->ip_Edit, &QLineEdit::textChanged, m_machine, &MachineController::setWifiAddress);
+    connect(m_machine, &MachineController::machineTravelKnown, m_pages,
+            [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });
+    connect(m_machine, &MachineController::busyChanged, m_layers,
+            [this](bool busy) {
+                if (!busy)
+                    m_layers->rebuild(); // the list stayed frozen while the job ran
+            });
+    m_machine->startPortWatcher();
+}
+
+void Widget::startJob()
+{
+    if (programState().connectionMode == NotConnected) {
+        show_notice(this, tr("请先连接设备!"));
+        return;
+    }
+    if (m_machine->busy()) {
+        show_notice(this, tr("设备雕刻中,暂时停止使用!"));
+        return;
+    }
+    if (m_jobs->prepareRun(currentDesignItems()))
+        m_machine->runJob(programState().jobFilePath);
+}
+
+QList<Jk_tu_yuan *> Widget::currentDesignItems() const
+{
+    Jk_chang_jing *scene = m_pages->currentScene();
+    return scene ? scene->designItems() : QList<Jk_tu_yuan *>();
 }
 
 QList<QGraphicsItem *> Widget::currentSelection() const

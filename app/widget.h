@@ -4,12 +4,16 @@
 #include <QWidget>
 
 class QGraphicsItem;
+class Jk_tu_yuan;
 
 namespace Ui {
 class Widget;
 }
 
 class DesignPages;
+class GcodeJobController;
+class MachineController;
+class MachinePanel;
 class ImportActions;
 class LayerPaletteBar;
 class LayerPanelController;
@@ -39,6 +43,8 @@ public:
     DesignPages *pages() const { return m_pages; }
     ProjectCommands *projectCommands() const { return m_project; }
     LayerPanelController *layerController() const { return m_layers; }
+    GcodeJobController *jobController() const { return m_jobs; }
+    MachineController *machineController() const { return m_machine; }
 
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
@@ -51,6 +57,11 @@ private:
     void setupDesign();
     void setupLayers();
     void setupImport();
+    void setupJobs();
+    void setupMachine();
+    // Generates the job of the current page and sends it over the open link.
+    void startJob();
+    QList<Jk_tu_yuan *> currentDesignItems() const;
     QList<QGraphicsItem *> currentSelection() const;
 
     Ui::Widget *ui;
@@ -62,4 +73,7 @@ private:
     Tu_Ceng_Zhi *m_layerParameters = nullptr;
     LayerPanelController *m_layers = nullptr;
     ImportActions *m_import = nullptr;
+    GcodeJobController *m_jobs = nullptr;
+    MachinePanel *m_machinePanel = nullptr;
+    MachineController *m_machine = nullptr;
 };
