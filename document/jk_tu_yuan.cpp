@@ -10,11 +10,15 @@
 #include <QGraphicsView>
 #include <QPainter>
 #include <QPainterPathStroker>
+#include <QStyleOptionGraphicsItem>
+#include <algorithm>
 
 namespace {
 constexpr double kMinExtent = 0.3;   // mm; keeps straight lines pickable
 constexpr double kPickWidth = 5.0;   // mm; stroker width for hit testing
 constexpr double kHoverSquare = 3.0; // mm
+// Outlines smaller than this on the screen are drawn with a one-pixel line.
+constexpr double kThinLinePixels = 12.0;
 
 QPainterPath pathForShape(int shapeNumber)
 {
@@ -158,7 +162,7 @@ QRectF Jk_tu_yuan::boundingRect() const
     return r;
 }
 
-void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *)
 {
     const LayerList &layers = LayerList::instance();
     const int current = lumitra::programState().currentLayer;
@@ -195,6 +199,13 @@ void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWid
             }
         }
     }
+    // An outline only a few pixels across gets a one-pixel line: the library
+    // draws those on its fast path, which keeps a canvas of thousands of small
+    // shapes responsive, and at that size the two look alike.
+    const QRectF box = path.boundingRect();
+    const double lod = option ? option->levelOfDetailFromTransform(painter->worldTransform()) : 1;
+    if (std::max(box.width(), box.height()) * lod < kThinLinePixels)
+        pen.setWidth(1);
     painter->setPen(pen);
     if (!filled)
         painter->setBrush(Qt::NoBrush);

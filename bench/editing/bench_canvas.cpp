@@ -180,6 +180,7 @@ int main(int argc, char **argv)
     // item's outline, then each mouse move carries all of it.
     const QPointF grab = all.first()->mapToScene(all.first()->path.elementAt(0));
     QPointF pointer = grab;
+    const int stepsBefore = stack->count();
     sendSceneMouse(scene, QEvent::GraphicsSceneMousePress, grab);
     ok &= report("drag step (all items follow)",
                  measure(
@@ -189,7 +190,7 @@ int main(int argc, char **argv)
                      },
                      *view, paints));
     sendSceneMouse(scene, QEvent::GraphicsSceneMouseRelease, pointer);
-    std::printf("  (the drag left %d step(s) on the undo stack)\n", stack->index());
+    std::printf("  (the whole drag added %d undo step)\n", stack->count() - stepsBefore);
 
     const QPoint middle = view->viewport()->rect().center();
     double factor = 1.15;
