@@ -5,6 +5,7 @@
 #include "design_pages.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
+#include "job_preview_dialog.h"
 #include "import_actions.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
@@ -22,7 +23,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QMenu>
+#include <QTemporaryDir>
 #include <QUndoStack>
 
 using namespace lumitra;
@@ -89,6 +92,28 @@ void Widget::setupJobs()
             [this] { m_jobs->saveGcode(currentDesignItems()); });
     connect(ui->rotary_Btn, &QPushButton::clicked, m_jobs, &GcodeJobController::editRotary);
     connect(ui->start_Btn, &QPushButton::clicked, this, &Widget::startJob);
+    connect(ui->preview_Btn, &QPushButton::clicked, this, &Widget::previewJob);
+}
+
+void Widget::previewJob()
+{
+    const QList<Jk_tu_yuan *> items = currentDesignItems();
+    if (items.isEmpty()) {
+        show_notice(this, tr("没有可预览的图形!"));
+        return;
+    }
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("preview.nc"));
+    if (!m_jobs->saveGcodeTo(items, path))
+        return;
+    QFile job(path);
+    if (!job.open(QIODevice::ReadOnly))
+        return;
+    const ProgramState &s = programState();
+    auto *dialog = new JobPreviewDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height)));
+    dialog->show();
 }
 
 void Widget::setupMachine()

@@ -61,6 +61,8 @@ private:
     void setupMachine();
     // Generates the job of the current page and sends it over the open link.
     void startJob();
+    // Generates the job and shows what it will burn, with its estimated time.
+    void previewJob();
     QList<Jk_tu_yuan *> currentDesignItems() const;
     QList<QGraphicsItem *> currentSelection() const;
 
