@@ -32,8 +32,8 @@ void MoveDialog::setSelection(const QRectF &sceneBounds, double rotation)
     ui->jiaodu_Box->setValue(rotation);
     m_syncing = false;
     // The boxes round to two decimals; remember what they show.
-    m_start = QRectF(ui->x_Box->value(), ui->y_Box->value(), ui->kuan_Box->value(),
-                     ui->gao_Box->value());
+    m_start =
+        QRectF(ui->x_Box->value(), ui->y_Box->value(), ui->kuan_Box->value(), ui->gao_Box->value());
     m_startRotation = ui->jiaodu_Box->value();
 }
 
@@ -58,8 +58,8 @@ void MoveDialog::heightEdited(double height)
 lumitra::Placement MoveDialog::placement() const
 {
     lumitra::Placement p;
-    p.machineRect = QRectF(ui->x_Box->value(), ui->y_Box->value(), ui->kuan_Box->value(),
-                           ui->gao_Box->value());
+    p.machineRect =
+        QRectF(ui->x_Box->value(), ui->y_Box->value(), ui->kuan_Box->value(), ui->gao_Box->value());
     p.rotation = ui->jiaodu_Box->value() - m_startRotation;
     p.resize = p.machineRect.size() != m_start.size();
     return p;

@@ -22,8 +22,8 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QUndoStack>
 #include <algorithm>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <vector>
 

@@ -39,7 +39,7 @@ inline QString describe(const QPainterPath &p)
 inline bool sameRect(const QRectF &a, const QRectF &b, double tol = 1e-6)
 {
     return std::abs(a.x() - b.x()) <= tol && std::abs(a.y() - b.y()) <= tol
-        && std::abs(a.width() - b.width()) <= tol && std::abs(a.height() - b.height()) <= tol;
+           && std::abs(a.width() - b.width()) <= tol && std::abs(a.height() - b.height()) <= tol;
 }
 
 inline QString describe(const QRectF &r)

@@ -54,8 +54,8 @@ void TestArrays::rectangularCellsStepByBoundsAndGap()
     QFETCH(double, gapY);
     // A selection of two items whose bounds are (10, -50, 30 x 20).
     const QList<Jk_tu_yuan *> items{rectItem(10, -50, 10, 10), rectItem(30, -40, 10, 10)};
-    const QList<Jk_tu_yuan *> copies
-        = rectangularArrayCopies(items, RectangularArray{rows, columns, gapX, gapY});
+    const QList<Jk_tu_yuan *> copies =
+        rectangularArrayCopies(items, RectangularArray{rows, columns, gapX, gapY});
     QCOMPARE(copies.size(), (rows * columns - 1) * items.size());
     int n = 0;
     for (int r = 0; r < rows; ++r) {
@@ -112,8 +112,8 @@ void TestArrays::circularCopiesTurnAboutTheCentre()
     QFETCH(double, step);
     const QPointF centre(100, -100);
     Jk_tu_yuan *item = rectItem(140, -105, 20, 10); // to the right of the centre
-    const QList<Jk_tu_yuan *> copies
-        = circularArrayCopies({item}, CircularArray{count, centre, sweep, true});
+    const QList<Jk_tu_yuan *> copies =
+        circularArrayCopies({item}, CircularArray{count, centre, sweep, true});
     QCOMPARE(copies.size(), count - 1);
     for (int k = 1; k < count; ++k) {
         const Jk_tu_yuan *copy = copies.at(k - 1);
@@ -134,8 +134,8 @@ void TestArrays::circularCopiesWithoutTurning()
 {
     const QPointF centre(0, 0);
     Jk_tu_yuan *item = rectItem(40, -5, 20, 10); // bounds centre (50, 0)
-    const QList<Jk_tu_yuan *> copies
-        = circularArrayCopies({item}, CircularArray{4, centre, 360, false});
+    const QList<Jk_tu_yuan *> copies =
+        circularArrayCopies({item}, CircularArray{4, centre, 360, false});
     QCOMPARE(copies.size(), 3);
     const QPointF expectedCentres[] = {{0, 50}, {-50, 0}, {0, -50}};
     for (int k = 0; k < 3; ++k) {
@@ -166,9 +166,9 @@ void TestArrays::nothingToCopy()
     QFETCH(int, a);
     QFETCH(int, b);
     Jk_tu_yuan *item = rectItem(0, 0, 5, 5);
-    const QList<Jk_tu_yuan *> copies = circular
-        ? circularArrayCopies({item}, CircularArray{a, QPointF(), 360, true})
-        : rectangularArrayCopies({item}, RectangularArray{a, b, 1, 1});
+    const QList<Jk_tu_yuan *> copies =
+        circular ? circularArrayCopies({item}, CircularArray{a, QPointF(), 360, true})
+                 : rectangularArrayCopies({item}, RectangularArray{a, b, 1, 1});
     QVERIFY(copies.isEmpty());
     Jk_chang_jing scene;
     std::unique_ptr<QUndoCommand> command(

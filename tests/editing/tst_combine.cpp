@@ -290,8 +290,8 @@ void TestCombine::breakApartUndoRedo()
 {
     Jk_chang_jing scene;
     // A ring and a square in one item, turned and moved.
-    Jk_tu_yuan *item
-        = itemAt(joined({circle({10, 10}, 10), circle({10, 10}, 6), square(30, 0, 8)}), {5, -40});
+    Jk_tu_yuan *item =
+        itemAt(joined({circle({10, 10}, 10), circle({10, 10}, 6), square(30, 0, 8)}), {5, -40});
     Jk_tu_yuan::rotateItems({item}, 15, QPointF(20, -30));
     item->layer_id = 3;
     scene.addItem(item);

@@ -134,8 +134,8 @@ void TestDrawnShapes::rightToLeftDragGivesTheSameShape()
     } else {
         // Proportional drags grow away from the press point: same size and shape,
         // only placed on the other side.
-        const QPointF shift
-            = fromRight.boundingRect().topLeft() - reference.boundingRect().topLeft();
+        const QPointF shift =
+            fromRight.boundingRect().topLeft() - reference.boundingRect().topLeft();
         QVERIFY(samePath(reference.translated(shift), fromRight, 1e-9));
         QCOMPARE(fromRight.boundingRect().width(), fromRight.boundingRect().height());
     }

@@ -144,6 +144,16 @@ void TestEditController::toolsFollowTheCurrentPage()
     QCOMPARE(first->tool(), static_cast<SceneTool *>(w.edit.selectionTool()));
     w.edit.setTool(42); // unknown: back to selection
     QCOMPARE(w.edit.currentTool(), 0);
+
+    // Closing the page the tools serve hands them to the page that remains.
+    first->addItemsUndoable({rectItem(0, -10, 5, 5)});
+    QCoreApplication::processEvents(); // the selection frame is up
+    QVERIFY(w.pages->closePage(0));
+    QCOMPARE(w.pages->count(), 1);
+    QCOMPARE(w.scene()->tool(), static_cast<SceneTool *>(w.edit.selectionTool()));
+    w.edit.setTool(3);
+    QVERIFY(w.pages->closePage(w.pages->addPage() == 1 ? 0 : 1));
+    QCOMPARE(w.scene()->tool()->number(), 3);
 }
 
 void TestEditController::actionsFollowTheSelection()

@@ -137,7 +137,7 @@ void TestItemClipboard::pasteAddsMovedCopies()
         for (QGraphicsItem *g : scene.items()) {
             auto *copy = dynamic_cast<Jk_tu_yuan *>(g);
             found |= samePath(copy->scenePath(), original->scenePath().translated(10, 10), 1e-9)
-                && copy->layer_id == original->layer_id;
+                     && copy->layer_id == original->layer_id;
         }
         QVERIFY(found);
     }
