@@ -1,4 +1,1005 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="zh_CN">
+<context>
+    <name>AlignPanel</name>
+    <message>
+        <source>对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>水平居中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>顶对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>垂直居中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>底对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>工作区居中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>水平等距</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>垂直等距</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ArrayDialog</name>
+    <message>
+        <source>阵列</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>矩形阵列</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>行数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>列数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>列间距(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>行间距(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>圆形阵列</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>数量：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中心X(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中心Y(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>角度范围(°)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>旋转副本</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DesignCommand</name>
+    <message>
+        <source>添加</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>修改图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DesignPages</name>
+    <message>
+        <source>新建页面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>页面%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重命名页面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>页面名称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭页面将删除其中的所有图形,是否继续?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DxfImport</name>
+    <message>
+        <source>DXF 图形过于复杂</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 文件过大</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 文件为空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 文件已损坏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EditCommand</name>
+    <message>
+        <source>对齐</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>等间距分布</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>阵列</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打散</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>修改文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EditController</name>
+    <message>
+        <source>撤销</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>剪切</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>再制</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>水平镜像</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>垂直镜像</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>顺时针旋转90°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>逆时针旋转90°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打散</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>阵列</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>椭圆</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>三角形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>五边形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>六边形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>五角星</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲线</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GcodeJobController</name>
+    <message>
+        <source>保存G代码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>G代码 (*.nc *.gcode)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存失败!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请在滚轴界面检查相关参数再运行!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>生成G代码失败!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Gun_Zhou</name>
+    <message>
+        <source>滚轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轴设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轴模式：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>周长</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>直径</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>旋转轴：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>周长(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>直径(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>每圈行程：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Jk_dxf</name>
+    <message>
+        <source>无法打开文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 文件无法读取</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 坐标超出范围</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF 文件中没有可导入的图形</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Jk_gcode</name>
+    <message>
+        <source>滚轴参数无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Jk_wen_zi2</name>
+    <message>
+        <source>文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文字设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>字体：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>字号(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>粗体</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>字间距(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>行间距(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>JobPreviewDialog</name>
+    <message>
+        <source>预览</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>预计时间：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>G代码行数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>雕刻长度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>空移长度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LayerRowsPanel</name>
+    <message>
+        <source>图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MachineController</name>
+    <message>
+        <source>已连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备触发警告!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备运行中禁用此功能!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点火</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files (*.nc);;Files (*.gcode)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MachinePanel</name>
+    <message>
+        <source>COM:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>归位</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>回原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清除原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移动到</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>运行文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>走边框</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点火</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoShiYuLan</name>
+    <message>
+        <source>模式预览</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>抖动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>轮廓</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>负向</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoveDialog</name>
+    <message>
+        <source>移动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宽(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>高(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>旋转(°)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>锁定比例</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OpenDispatch</name>
+    <message>
+        <source>图片太大,无法打开!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCommands</name>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有数据，禁止保存!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files (*.lumitra)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SvgImport</name>
+    <message>
+        <source>SVG 文件嵌套层数过多</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG 文件格式错误</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG 文件为空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG 文件图形数量过多</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG 文件过大</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TuCeng</name>
+    <message>
+        <source>线条</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>交叉填充</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>抖动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>轮廓</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>负向</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>负像</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TuCengItem2</name>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Tu_Ceng_Zhi</name>
+    <message>
+        <source>图层参数</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>填充方向(°)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>填充间距(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>过扫描mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>速度(mm/min)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率(%)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单向</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Widget</name>
+    <message>
+        <source>文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存G代码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>旋转角度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>语言</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>创作未保存,是否立即退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有可预览的图形!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>新建页面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图像模式预览</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>描摹位图</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>lumitra::LanguageController</name>
+    <message>
+        <source>稍后重启</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>语言修改成功,请重启软件!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

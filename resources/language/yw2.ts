@@ -1,4 +1,1005 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
+<context>
+    <name>AlignPanel</name>
+    <message>
+        <source>对齐</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>左对齐</source>
+        <translation>Align left</translation>
+    </message>
+    <message>
+        <source>水平居中</source>
+        <translation>Center horizontally</translation>
+    </message>
+    <message>
+        <source>右对齐</source>
+        <translation>Align right</translation>
+    </message>
+    <message>
+        <source>顶对齐</source>
+        <translation>Align top</translation>
+    </message>
+    <message>
+        <source>垂直居中</source>
+        <translation>Center vertically</translation>
+    </message>
+    <message>
+        <source>底对齐</source>
+        <translation>Align bottom</translation>
+    </message>
+    <message>
+        <source>工作区居中</source>
+        <translation>Center in work area</translation>
+    </message>
+    <message>
+        <source>水平等距</source>
+        <translation>Distribute horizontally</translation>
+    </message>
+    <message>
+        <source>垂直等距</source>
+        <translation>Distribute vertically</translation>
+    </message>
+</context>
+<context>
+    <name>ArrayDialog</name>
+    <message>
+        <source>阵列</source>
+        <translation>Array</translation>
+    </message>
+    <message>
+        <source>矩形阵列</source>
+        <translation>Rectangular array</translation>
+    </message>
+    <message>
+        <source>行数：</source>
+        <translation>Rows:</translation>
+    </message>
+    <message>
+        <source>列数：</source>
+        <translation>Columns:</translation>
+    </message>
+    <message>
+        <source>列间距(mm)：</source>
+        <translation>Column spacing (mm):</translation>
+    </message>
+    <message>
+        <source>行间距(mm)：</source>
+        <translation>Row spacing (mm):</translation>
+    </message>
+    <message>
+        <source>圆形阵列</source>
+        <translation>Circular array</translation>
+    </message>
+    <message>
+        <source>数量：</source>
+        <translation>Count:</translation>
+    </message>
+    <message>
+        <source>中心X(mm)：</source>
+        <translation>Center X (mm):</translation>
+    </message>
+    <message>
+        <source>中心Y(mm)：</source>
+        <translation>Center Y (mm):</translation>
+    </message>
+    <message>
+        <source>角度范围(°)：</source>
+        <translation>Angle range (°):</translation>
+    </message>
+    <message>
+        <source>旋转副本</source>
+        <translation>Rotate copies</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DesignCommand</name>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>修改图层</source>
+        <translation>Change layer</translation>
+    </message>
+</context>
+<context>
+    <name>DesignPages</name>
+    <message>
+        <source>新建页面</source>
+        <translation>New page</translation>
+    </message>
+    <message>
+        <source>页面%1</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>重命名页面</source>
+        <translation>Rename page</translation>
+    </message>
+    <message>
+        <source>页面名称：</source>
+        <translation>Page name:</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>关闭页面将删除其中的所有图形,是否继续?</source>
+        <translation>Closing the page deletes all its shapes. Continue?</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+</context>
+<context>
+    <name>DxfImport</name>
+    <message>
+        <source>DXF 图形过于复杂</source>
+        <translation>The DXF drawing is too complex</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Cannot open the file</translation>
+    </message>
+    <message>
+        <source>DXF 文件过大</source>
+        <translation>The DXF file is too large</translation>
+    </message>
+    <message>
+        <source>DXF 文件为空</source>
+        <translation>The DXF file is empty</translation>
+    </message>
+    <message>
+        <source>DXF 文件已损坏</source>
+        <translation>The DXF file is damaged</translation>
+    </message>
+</context>
+<context>
+    <name>EditCommand</name>
+    <message>
+        <source>对齐</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>等间距分布</source>
+        <translation>Distribute evenly</translation>
+    </message>
+    <message>
+        <source>阵列</source>
+        <translation>Array</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>打散</source>
+        <translation>Ungroup</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>修改文字</source>
+        <translation>Edit text</translation>
+    </message>
+</context>
+<context>
+    <name>EditController</name>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>剪切</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>再制</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>水平镜像</source>
+        <translation>Mirror horizontally</translation>
+    </message>
+    <message>
+        <source>垂直镜像</source>
+        <translation>Mirror vertically</translation>
+    </message>
+    <message>
+        <source>顺时针旋转90°</source>
+        <translation>Rotate 90° clockwise</translation>
+    </message>
+    <message>
+        <source>逆时针旋转90°</source>
+        <translation>Rotate 90° counterclockwise</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>打散</source>
+        <translation>Ungroup</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>Move...</translation>
+    </message>
+    <message>
+        <source>阵列</source>
+        <translation>Array</translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>椭圆</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>三角形</source>
+        <translation>Triangle</translation>
+    </message>
+    <message>
+        <source>五边形</source>
+        <translation>Pentagon</translation>
+    </message>
+    <message>
+        <source>六边形</source>
+        <translation>Hexagon</translation>
+    </message>
+    <message>
+        <source>五角星</source>
+        <translation>Star</translation>
+    </message>
+    <message>
+        <source>曲线</source>
+        <translation>Curve</translation>
+    </message>
+</context>
+<context>
+    <name>GcodeJobController</name>
+    <message>
+        <source>保存G代码</source>
+        <translation>Save G-code</translation>
+    </message>
+    <message>
+        <source>G代码 (*.nc *.gcode)</source>
+        <translation>G-code (*.nc *.gcode)</translation>
+    </message>
+    <message>
+        <source>保存失败!</source>
+        <translation>Saving failed!</translation>
+    </message>
+    <message>
+        <source>请在滚轴界面检查相关参数再运行!</source>
+        <translation>Check the settings in the Rotary dialog before running!</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>生成G代码失败!</source>
+        <translation>Generating G-code failed!</translation>
+    </message>
+</context>
+<context>
+    <name>Gun_Zhou</name>
+    <message>
+        <source>滚轴</source>
+        <translation>Rotary</translation>
+    </message>
+    <message>
+        <source>滚轴设置</source>
+        <translation>Rotary settings</translation>
+    </message>
+    <message>
+        <source>滚轴模式：</source>
+        <translation>Rotary mode:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>周长</source>
+        <translation>Circumference</translation>
+    </message>
+    <message>
+        <source>直径</source>
+        <translation>Diameter</translation>
+    </message>
+    <message>
+        <source>旋转轴：</source>
+        <translation>Rotation axis:</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>周长(mm)：</source>
+        <translation>Circumference (mm):</translation>
+    </message>
+    <message>
+        <source>直径(mm)：</source>
+        <translation>Diameter (mm):</translation>
+    </message>
+    <message>
+        <source>每圈行程：</source>
+        <translation>Travel per revolution:</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Jk_dxf</name>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Cannot open the file</translation>
+    </message>
+    <message>
+        <source>DXF 文件无法读取</source>
+        <translation>The DXF file cannot be read</translation>
+    </message>
+    <message>
+        <source>DXF 坐标超出范围</source>
+        <translation>DXF coordinates are out of range</translation>
+    </message>
+    <message>
+        <source>DXF 文件中没有可导入的图形</source>
+        <translation>The DXF file contains no shapes to import</translation>
+    </message>
+</context>
+<context>
+    <name>Jk_gcode</name>
+    <message>
+        <source>滚轴参数无效</source>
+        <translation>Invalid rotary settings</translation>
+    </message>
+</context>
+<context>
+    <name>Jk_wen_zi2</name>
+    <message>
+        <source>文字</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>文字设置</source>
+        <translation>Text settings</translation>
+    </message>
+    <message>
+        <source>请输入文字</source>
+        <translation>Enter text</translation>
+    </message>
+    <message>
+        <source>字体：</source>
+        <translation>Font:</translation>
+    </message>
+    <message>
+        <source>字号(mm)：</source>
+        <translation>Size (mm):</translation>
+    </message>
+    <message>
+        <source>粗体</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>字间距(mm)：</source>
+        <translation>Letter spacing (mm):</translation>
+    </message>
+    <message>
+        <source>行间距(mm)：</source>
+        <translation>Row spacing (mm):</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>JobPreviewDialog</name>
+    <message>
+        <source>预览</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>预计时间：</source>
+        <translation>Estimated time:</translation>
+    </message>
+    <message>
+        <source>G代码行数：</source>
+        <translation>G-code lines:</translation>
+    </message>
+    <message>
+        <source>雕刻长度：</source>
+        <translation>Burn length:</translation>
+    </message>
+    <message>
+        <source>空移长度：</source>
+        <translation>Travel length:</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>LayerRowsPanel</name>
+    <message>
+        <source>图层</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>MachineController</name>
+    <message>
+        <source>已连接</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>设备触发警告!</source>
+        <translation>The machine raised an alarm!</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>Connect the machine first!</translation>
+    </message>
+    <message>
+        <source>设备运行中禁用此功能!</source>
+        <translation>Not available while the machine is running!</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Resume</translation>
+    </message>
+    <message>
+        <source>点火</source>
+        <translation>Test fire</translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation>The IP address cannot be empty!</translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>The machine is engraving; not available for now!</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Open File</translation>
+    </message>
+    <message>
+        <source>Files (*.nc);;Files (*.gcode)</source>
+        <translation>Files (*.nc);;Files (*.gcode)</translation>
+    </message>
+</context>
+<context>
+    <name>MachinePanel</name>
+    <message>
+        <source>COM:</source>
+        <translation>COM:</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>归位</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>回原点</source>
+        <translation>Go to origin</translation>
+    </message>
+    <message>
+        <source>设置原点</source>
+        <translation>Set origin</translation>
+    </message>
+    <message>
+        <source>清除原点</source>
+        <translation>Clear origin</translation>
+    </message>
+    <message>
+        <source>移动到</source>
+        <translation>Move to</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>运行文件</source>
+        <translation>Run file</translation>
+    </message>
+    <message>
+        <source>走边框</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>点火</source>
+        <translation>Test fire</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+</context>
+<context>
+    <name>MoShiYuLan</name>
+    <message>
+        <source>模式预览</source>
+        <translation>Mode preview</translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation>Black &amp; white</translation>
+    </message>
+    <message>
+        <source>抖动</source>
+        <translation>Dither</translation>
+    </message>
+    <message>
+        <source>轮廓</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grayscale</translation>
+    </message>
+    <message>
+        <source>负向</source>
+        <translation>Negative</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>MoveDialog</name>
+    <message>
+        <source>移动</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>X(mm)：</source>
+        <translation>X (mm):</translation>
+    </message>
+    <message>
+        <source>Y(mm)：</source>
+        <translation>Y (mm):</translation>
+    </message>
+    <message>
+        <source>宽(mm)：</source>
+        <translation>Width (mm):</translation>
+    </message>
+    <message>
+        <source>高(mm)：</source>
+        <translation>Height (mm):</translation>
+    </message>
+    <message>
+        <source>旋转(°)：</source>
+        <translation>Rotation (°):</translation>
+    </message>
+    <message>
+        <source>锁定比例</source>
+        <translation>Lock aspect ratio</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>OpenDispatch</name>
+    <message>
+        <source>图片太大,无法打开!</source>
+        <translation>The image is too large to open!</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCommands</name>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>The machine is engraving; not available for now!</translation>
+    </message>
+    <message>
+        <source>没有数据，禁止保存!</source>
+        <translation>Nothing to save!</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Save File</translation>
+    </message>
+    <message>
+        <source>Files (*.lumitra)</source>
+        <translation>Files (*.lumitra)</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Open File</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
+        <translation>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
+    </message>
+</context>
+<context>
+    <name>SvgImport</name>
+    <message>
+        <source>SVG 文件嵌套层数过多</source>
+        <translation>The SVG file is nested too deeply</translation>
+    </message>
+    <message>
+        <source>SVG 文件格式错误</source>
+        <translation>The SVG file is malformed</translation>
+    </message>
+    <message>
+        <source>SVG 文件为空</source>
+        <translation>The SVG file is empty</translation>
+    </message>
+    <message>
+        <source>SVG 文件图形数量过多</source>
+        <translation>The SVG file has too many shapes</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Cannot open the file</translation>
+    </message>
+    <message>
+        <source>SVG 文件过大</source>
+        <translation>The SVG file is too large</translation>
+    </message>
+</context>
+<context>
+    <name>TuCeng</name>
+    <message>
+        <source>线条</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>交叉填充</source>
+        <translation>Cross fill</translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation>Black &amp; white</translation>
+    </message>
+    <message>
+        <source>抖动</source>
+        <translation>Dither</translation>
+    </message>
+    <message>
+        <source>轮廓</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grayscale</translation>
+    </message>
+    <message>
+        <source>负向</source>
+        <translation>Negative</translation>
+    </message>
+    <message>
+        <source>负像</source>
+        <translation>Negative</translation>
+    </message>
+</context>
+<context>
+    <name>TuCengItem2</name>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>Tu_Ceng_Zhi</name>
+    <message>
+        <source>图层参数</source>
+        <translation>Layer settings</translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <source>名称：</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>填充方向(°)：</source>
+        <translation>Fill angle (°):</translation>
+    </message>
+    <message>
+        <source>填充间距(mm)：</source>
+        <translation>Fill interval (mm):</translation>
+    </message>
+    <message>
+        <source>过扫描mm)：</source>
+        <translation>Overscan (mm):</translation>
+    </message>
+    <message>
+        <source>速度(mm/min)：</source>
+        <translation>Speed (mm/min):</translation>
+    </message>
+    <message>
+        <source>功率(%)：</source>
+        <translation>Power (%):</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Passes</translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>单向</source>
+        <translation>Unidirectional</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Widget</name>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>保存G代码</source>
+        <translation>Save G-code</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>滚轴</source>
+        <translation>Rotary</translation>
+    </message>
+    <message>
+        <source>旋转角度：</source>
+        <translation>Rotation angle:</translation>
+    </message>
+    <message>
+        <source>语言</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>创作未保存,是否立即退出</source>
+        <translation>Your work is not saved. Quit anyway?</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>没有可预览的图形!</source>
+        <translation>Nothing to preview!</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>Connect the machine first!</translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>The machine is engraving; not available for now!</translation>
+    </message>
+    <message>
+        <source>新建页面</source>
+        <translation>New page</translation>
+    </message>
+    <message>
+        <source>图像模式预览</source>
+        <translation>Image mode preview</translation>
+    </message>
+    <message>
+        <source>描摹位图</source>
+        <translation>Trace bitmap</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Quit</translation>
+    </message>
+</context>
+<context>
+    <name>lumitra::LanguageController</name>
+    <message>
+        <source>稍后重启</source>
+        <translation>Restart later</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>语言修改成功,请重启软件!</source>
+        <translation>Language changed. Please restart the application!</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+</context>
 </TS>
