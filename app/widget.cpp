@@ -2,7 +2,9 @@
 #include "ui_widget.h"
 
 #include "close_guard.h"
+#include "align_panel.h"
 #include "design_pages.h"
+#include "edit_controller.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
 #include "job_preview_dialog.h"
@@ -25,6 +27,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QMenu>
+#include <QToolBar>
 #include <QTemporaryDir>
 #include <QUndoStack>
 
@@ -41,6 +44,7 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
             Qt::QueuedConnection);
 
     setupDesign();
+    setupEditing();
     setupLayers();
     setupImport();
     setupJobs();
@@ -61,6 +65,35 @@ void Widget::setupDesign()
     connect(ui->open_Btn, &QPushButton::clicked, m_project, &ProjectCommands::open_project);
     connect(ui->save_Btn, &QPushButton::clicked, m_project, &ProjectCommands::save_project);
     connect(m_pages, &DesignPages::filesDropped, m_project, &ProjectCommands::open_files);
+}
+
+void Widget::setupEditing()
+{
+    // The controller puts every edit action on the window, so shortcuts work
+    // wherever the focus is; the double-click text edit is its job too.
+    m_edit = new EditController(m_pages, this, this);
+    auto *tools = new QToolBar(ui->toolHost);
+    tools->setOrientation(Qt::Vertical);
+    tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    tools->addActions(m_edit->toolActions());
+    tools->addSeparator();
+    for (EditController::Action a :
+         {EditController::Text, EditController::Move, EditController::Array,
+          EditController::MirrorHorizontal, EditController::MirrorVertical,
+          EditController::RotateClockwise, EditController::RotateAnticlockwise,
+          EditController::Combine, EditController::BreakApart})
+        tools->addAction(m_edit->action(a));
+    ui->toolHostLayout->addWidget(tools);
+    auto *align = new AlignPanel(ui->toolHost);
+    ui->toolHostLayout->addWidget(align);
+    ui->toolHostLayout->addStretch(1);
+    connect(align, &AlignPanel::alignRequested, m_edit, &EditController::align);
+    connect(align, &AlignPanel::distributeRequested, m_edit, &EditController::distribute);
+    connect(m_edit, &EditController::selectionTextChanged, ui->selection_Lab, &QLabel::setText);
+    connect(ui->rotate_Box, &QDoubleSpinBox::editingFinished, this, [this] {
+        if (ui->rotate_Box->value() != 0.0)
+            m_edit->rotateSelection(ui->rotate_Box->value());
+    });
 }
 
 void Widget::setupLayers()
@@ -185,6 +218,14 @@ void Widget::buildFileMenu()
     connect(quit, &QAction::triggered, this, &QWidget::close);
     ui->file_Btn->setMenu(menu);
     addActions(menu->actions()); // shortcuts work without opening the menu
+
+    auto *edit = new QMenu(this);
+    for (EditController::Action a :
+         {EditController::Undo, EditController::Redo, EditController::Cut, EditController::Copy,
+          EditController::Paste, EditController::Duplicate, EditController::Delete,
+          EditController::SelectAll})
+        edit->addAction(m_edit->action(a));
+    ui->edit_Btn->setMenu(edit);
 }
 
 void Widget::openFiles(const QStringList &paths)

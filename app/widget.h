@@ -11,6 +11,7 @@ class Widget;
 }
 
 class DesignPages;
+class EditController;
 class GcodeJobController;
 class MachineController;
 class MachinePanel;
@@ -45,6 +46,7 @@ public:
     LayerPanelController *layerController() const { return m_layers; }
     GcodeJobController *jobController() const { return m_jobs; }
     MachineController *machineController() const { return m_machine; }
+    EditController *editController() const { return m_edit; }
 
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
@@ -57,6 +59,7 @@ private:
     void setupDesign();
     void setupLayers();
     void setupImport();
+    void setupEditing();
     void setupJobs();
     void setupMachine();
     // Generates the job of the current page and sends it over the open link.
@@ -75,6 +78,7 @@ private:
     Tu_Ceng_Zhi *m_layerParameters = nullptr;
     LayerPanelController *m_layers = nullptr;
     ImportActions *m_import = nullptr;
+    EditController *m_edit = nullptr;
     GcodeJobController *m_jobs = nullptr;
     MachinePanel *m_machinePanel = nullptr;
     MachineController *m_machine = nullptr;
