@@ -982,6 +982,10 @@
         <source>退出</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>编辑</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>

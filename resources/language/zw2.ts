@@ -982,6 +982,10 @@
         <source>退出</source>
         <translation>退出</translation>
     </message>
+    <message>
+        <source>编辑</source>
+        <translation>编辑</translation>
+    </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
