@@ -1,5 +1,6 @@
 // The mode preview dialog: the fit-to-label rule, what each label shows for each mode,
-// and the window actions that open it and trace a selected bitmap.
+// and the window actions that open it (only for a single selected bitmap) and trace a
+// selected bitmap.
 #include "image_modes.h"
 #include "import_actions.h"
 #include "jk_chang_jing.h"
@@ -62,7 +63,6 @@ void TestMoShiYuLan::fitToLabel_data()
 
     QTest::newRow("small, centred") << QSize(50, 30) << QSize(100, 100) << QRect(25, 35, 50, 30);
     QTest::newRow("odd margins round down") << QSize(51, 31) << QSize(100, 100) << QRect(24, 34, 51, 31);
-    QTest::newRow("same size") << QSize(100, 60) << QSize(100, 60) << QRect(0, 0, 100, 60);
     QTest::newRow("wide: width fills") << QSize(400, 100) << QSize(200, 200) << QRect(0, 75, 200, 50);
     QTest::newRow("tall: height fills") << QSize(100, 400) << QSize(200, 100) << QRect(87, 0, 25, 100);
     QTest::newRow("height rounded") << QSize(300, 200) << QSize(100, 100) << QRect(0, 16, 100, 67);
@@ -130,6 +130,7 @@ void TestMoShiYuLan::previewOpensOnlyForOneBitmap_data()
     QTest::newRow("one bitmap") << 1 << 0 << true;
     QTest::newRow("one vector") << 0 << 1 << false;
     QTest::newRow("two bitmaps") << 2 << 0 << false;
+    QTest::newRow("bitmap and vector") << 1 << 1 << false;
     QTest::newRow("nothing") << 0 << 0 << false;
 }
 
