@@ -18,16 +18,11 @@ namespace fixture {
 // The star template of the drawing tools, as a closed polygon.
 inline QPainterPath starOutline()
 {
-    const QPolygonF star({{380, 23},
-                          {489, 241},
-                          {732, 275},
-                          {556, 444},
-                          {597, 683},
-                          {380, 571},
-                          {163, 682},
-                          {204, 444},
-                          {28, 275},
-                          {271, 241}});
+    const qreal xy[] = {380, 23,  489, 241, 732, 275, 556, 444, 597, 683,
+                        380, 571, 163, 682, 204, 444, 28,  275, 271, 241};
+    QPolygonF star;
+    for (int i = 0; i < 20; i += 2)
+        star << QPointF(xy[i], xy[i + 1]);
     QPainterPath p;
     p.addPolygon(star);
     p.closeSubpath();
