@@ -15,6 +15,11 @@ struct ToolStep
     int grey = 0;
 };
 
+inline double distance(const QPointF &a, const QPointF &b)
+{
+    return std::hypot(b.x() - a.x(), b.y() - a.y());
+}
+
 class RecordingSink : public lumitra::ToolpathSink
 {
 public:
@@ -27,6 +32,14 @@ public:
     }
     bool stopRequested() const override { return stopAfter >= 0 && steps.size() >= stopAfter; }
 
+    // The kinds of all steps as letters: T travel, B burn, C coast, G grey.
+    QByteArray kinds() const
+    {
+        QByteArray out;
+        for (const ToolStep &s : steps)
+            out += "TBCG"[s.kind];
+        return out;
+    }
     // Burnt stretches: (from, to) for every burn step, from the step before it.
     QVector<QPair<QPointF, QPointF>> burns() const
     {
@@ -37,20 +50,14 @@ public:
         }
         return out;
     }
-    double burntLength() const
-    {
-        double total = 0;
-        for (const auto &b : burns())
-            total += std::hypot(b.second.x() - b.first.x(), b.second.y() - b.first.y());
-        return total;
-    }
-    double travelLength() const
+    // Total length of the steps of one kind (burns include grey burns).
+    double length(ToolStep::Kind kind) const
     {
         double total = 0;
         for (int i = 1; i < steps.size(); ++i) {
-            if (steps[i].kind == ToolStep::Travel)
-                total += std::hypot(steps[i].at.x() - steps[i - 1].at.x(),
-                                    steps[i].at.y() - steps[i - 1].at.y());
+            const bool grey = steps[i].kind == ToolStep::Grey;
+            if ((grey ? ToolStep::Burn : steps[i].kind) == kind)
+                total += distance(steps[i - 1].at, steps[i].at);
         }
         return total;
     }

@@ -19,15 +19,39 @@
 
 using namespace lumitra;
 
+Q_DECLARE_METATYPE(lumitra::RotarySettings)
+
 namespace {
 
-template<typename T>
-T *child(QWidget *w, const char *name)
+const QString kCheckRotary = QStringLiteral("请在滚轴界面检查相关参数再运行!");
+
+template<typename T> T *child(QWidget *w, const char *name)
 {
     T *found = w->findChild<T *>(QLatin1String(name));
     if (!found)
         qFatal("no widget %s", name);
     return found;
+}
+
+QComboBox *mode(QWidget *w)
+{
+    return child<QComboBox>(w, "kaiGuan_Box");
+}
+QComboBox *axis(QWidget *w)
+{
+    return child<QComboBox>(w, "zhou_Box");
+}
+QDoubleSpinBox *circumference(QWidget *w)
+{
+    return child<QDoubleSpinBox>(w, "zhouChang_Box");
+}
+QDoubleSpinBox *diameter(QWidget *w)
+{
+    return child<QDoubleSpinBox>(w, "zhiJing_Box");
+}
+QDoubleSpinBox *units(QWidget *w)
+{
+    return child<QDoubleSpinBox>(w, "mm_Box");
 }
 
 } // namespace
@@ -39,18 +63,14 @@ class TestGcodeUi : public QObject
 private slots:
     void init();
     void cleanup() { set_message_handler(nullptr); }
-    void dialogShowsStoredSettings();
+    void dialogShowsAndStoresSettings();
+    void dialogCancelStoresNothing();
     void modeEnablesItsField_data();
     void modeEnablesItsField();
-    void confirmStoresSixDigits();
-    void cancelStoresNothing();
-    void runWithoutRotary();
-    void runWithRotaryAsksFirst_data();
-    void runWithRotaryAsksFirst();
-    void runRefusesUnusableRotary();
+    void run_data();
+    void run();
     void saveGcode_data();
     void saveGcode();
-    void saveFailureIsReported();
 
 private:
     QList<MessageRequest> m_messages;
@@ -76,53 +96,24 @@ void TestGcodeUi::init()
     QFile::remove(Jk_gcode::defaultJobPath());
 }
 
-void TestGcodeUi::dialogShowsStoredSettings()
+void TestGcodeUi::dialogShowsAndStoresSettings()
 {
     saveRotarySettings(rotarySettings(2, "X", 157.5, 50.25, 360));
     Gun_Zhou dialog;
-    QCOMPARE(child<QComboBox>(&dialog, "kaiGuan_Box")->currentIndex(), 2);
-    QCOMPARE(child<QComboBox>(&dialog, "zhou_Box")->currentText(), QStringLiteral("X"));
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "zhouChang_Box")->value(), 157.5);
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "zhiJing_Box")->value(), 50.25);
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "mm_Box")->value(), 360.0);
-    const RotarySettings shown = dialog.settings();
-    QCOMPARE(shown.mode, 2);
-    QCOMPARE(shown.axis, QStringLiteral("X"));
-}
+    QCOMPARE(mode(&dialog)->currentIndex(), 2);
+    QCOMPARE(axis(&dialog)->currentText(), QStringLiteral("X"));
+    QCOMPARE(circumference(&dialog)->value(), 157.5);
+    QCOMPARE(diameter(&dialog)->value(), 50.25);
+    QCOMPARE(units(&dialog)->value(), 360.0);
+    QCOMPARE(dialog.settings().mode, 2);
+    QCOMPARE(dialog.settings().axis, QStringLiteral("X"));
 
-void TestGcodeUi::modeEnablesItsField_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("circumference");
-    QTest::addColumn<bool>("diameter");
-    QTest::addColumn<bool>("axisAndUnits");
-    QTest::newRow("off") << 0 << false << false << false;
-    QTest::newRow("circumference") << 1 << true << false << true;
-    QTest::newRow("diameter") << 2 << false << true << true;
-}
-
-void TestGcodeUi::modeEnablesItsField()
-{
-    QFETCH(int, mode);
-    QFETCH(bool, circumference);
-    QFETCH(bool, diameter);
-    QFETCH(bool, axisAndUnits);
-    Gun_Zhou dialog;
-    child<QComboBox>(&dialog, "kaiGuan_Box")->setCurrentIndex(mode);
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "zhouChang_Box")->isEnabled(), circumference);
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "zhiJing_Box")->isEnabled(), diameter);
-    QCOMPARE(child<QComboBox>(&dialog, "zhou_Box")->isEnabled(), axisAndUnits);
-    QCOMPARE(child<QDoubleSpinBox>(&dialog, "mm_Box")->isEnabled(), axisAndUnits);
-}
-
-void TestGcodeUi::confirmStoresSixDigits()
-{
-    Gun_Zhou dialog;
-    child<QComboBox>(&dialog, "kaiGuan_Box")->setCurrentIndex(1);
-    child<QComboBox>(&dialog, "zhou_Box")->setCurrentIndex(2);
-    child<QDoubleSpinBox>(&dialog, "zhouChang_Box")->setValue(12345.678);
-    child<QDoubleSpinBox>(&dialog, "zhiJing_Box")->setValue(80);
-    child<QDoubleSpinBox>(&dialog, "mm_Box")->setValue(3.14159);
+    // Confirmed values are stored in their shortest form, six significant digits.
+    mode(&dialog)->setCurrentIndex(1);
+    axis(&dialog)->setCurrentIndex(2);
+    circumference(&dialog)->setValue(12345.678);
+    diameter(&dialog)->setValue(80);
+    units(&dialog)->setValue(3.14159);
     QSignalSpy accepted(&dialog, &QDialog::accepted);
     child<QPushButton>(&dialog, "confirm_Btn")->click();
     QCOMPARE(accepted.count(), 1);
@@ -133,12 +124,12 @@ void TestGcodeUi::confirmStoresSixDigits()
     QCOMPARE(get_setting(QLatin1String(kRotaryUnitsKey)), QStringLiteral("3.142"));
 }
 
-void TestGcodeUi::cancelStoresNothing()
+void TestGcodeUi::dialogCancelStoresNothing()
 {
     saveRotarySettings(rotarySettings(0, "Y", 100, 50, 360));
     Gun_Zhou dialog;
-    child<QComboBox>(&dialog, "kaiGuan_Box")->setCurrentIndex(2);
-    child<QDoubleSpinBox>(&dialog, "zhiJing_Box")->setValue(12);
+    mode(&dialog)->setCurrentIndex(2);
+    diameter(&dialog)->setValue(12);
     QSignalSpy rejected(&dialog, &QDialog::rejected);
     child<QPushButton>(&dialog, "close_Btn")->click();
     QCOMPARE(rejected.count(), 1);
@@ -146,78 +137,101 @@ void TestGcodeUi::cancelStoresNothing()
     QCOMPARE(get_setting(QLatin1String(kRotaryDiameterKey)), QStringLiteral("50"));
 }
 
-void TestGcodeUi::runWithoutRotary()
+void TestGcodeUi::modeEnablesItsField_data()
 {
+    QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("byCircumference");
+    QTest::addColumn<bool>("byDiameter");
+    QTest::addColumn<bool>("axisAndUnits");
+    QTest::newRow("off") << 0 << false << false << false;
+    QTest::newRow("circumference") << 1 << true << false << true;
+    QTest::newRow("diameter") << 2 << false << true << true;
+}
+
+void TestGcodeUi::modeEnablesItsField()
+{
+    QFETCH(int, index);
+    QFETCH(bool, byCircumference);
+    QFETCH(bool, byDiameter);
+    QFETCH(bool, axisAndUnits);
+    Gun_Zhou dialog;
+    mode(&dialog)->setCurrentIndex(index);
+    QCOMPARE(circumference(&dialog)->isEnabled(), byCircumference);
+    QCOMPARE(diameter(&dialog)->isEnabled(), byDiameter);
+    QCOMPARE(axis(&dialog)->isEnabled(), axisAndUnits);
+    QCOMPARE(units(&dialog)->isEnabled(), axisAndUnits);
+}
+
+void TestGcodeUi::run_data()
+{
+    QTest::addColumn<RotarySettings>("rotary");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("asked");
+    QTest::addColumn<QByteArray>("job"); // a line of code.txt; empty when no job is written
+
+    QTest::newRow("no rotary") << RotarySettings() << 1 << false << QByteArray("G1X20.00");
+    QTest::newRow("rotary confirmed") // X written as the rotary's Z
+        << rotarySettings(1, "X", 100, 50, 100) << 1 << true << QByteArray("G1Z-20.000");
+    QTest::newRow("rotary cancelled")
+        << rotarySettings(1, "X", 100, 50, 100) << 0 << true << QByteArray();
+    QTest::newRow("unusable rotary")
+        << rotarySettings(2, "Y", 100, 0, 360) << 1 << true << QByteArray();
+}
+
+void TestGcodeUi::run()
+{
+    QFETCH(RotarySettings, rotary);
+    QFETCH(int, answer);
+    QFETCH(bool, asked);
+    QFETCH(QByteArray, job);
+    saveRotarySettings(rotary);
+    m_answer = answer;
+    programState().cancel = true; // a stale cancel from an earlier run is cleared
     GcodeJobController controller(nullptr);
     controller.setLayerList(&m_design.layers);
     QSignalSpy ready(&controller, &GcodeJobController::runFileReady);
     QSignalSpy finished(controller.generator(), &Jk_gcode::zhuan_huan_wan_cheng);
-    programState().cancel = true; // a stale cancel from an earlier run is cleared
-    QVERIFY(controller.prepareRun(m_design.items()));
-    QVERIFY(m_messages.isEmpty());
-    QCOMPARE(ready.count(), 1);
-    QCOMPARE(finished.count(), 1);
+    QCOMPARE(controller.prepareRun(m_design.items()), !job.isEmpty());
+    QCOMPARE(m_messages.size(), asked ? 1 : 0);
+    if (asked)
+        QCOMPARE(m_messages.first().message, kCheckRotary);
+    if (asked && rotary.isUsable()) {
+        QCOMPARE(m_messages.first().firstButton, QStringLiteral("确定"));
+        QCOMPARE(m_messages.first().secondButton, QStringLiteral("取消"));
+    }
+    QCOMPARE(ready.count(), job.isEmpty() ? 0 : 1);
+    QCOMPARE(finished.count(), job.isEmpty() ? 0 : 1);
+    if (job.isEmpty()) {
+        QVERIFY(!QFile::exists(Jk_gcode::defaultJobPath()));
+        return;
+    }
+    QCOMPARE(Jk_gcode::defaultJobPath(), config_dir() + QStringLiteral("/code.txt"));
     QCOMPARE(programState().jobFilePath, Jk_gcode::defaultJobPath());
-    QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains("G1X20.00"));
-}
-
-void TestGcodeUi::runWithRotaryAsksFirst_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::newRow("confirmed") << 1;
-    QTest::newRow("cancelled") << 0;
-}
-
-void TestGcodeUi::runWithRotaryAsksFirst()
-{
-    QFETCH(int, answer);
-    saveRotarySettings(rotarySettings(1, "X", 100, 50, 100));
-    m_answer = answer;
-    GcodeJobController controller(nullptr);
-    controller.setLayerList(&m_design.layers);
-    QCOMPARE(controller.prepareRun(m_design.items()), answer == 1);
-    QCOMPARE(m_messages.size(), 1);
-    QCOMPARE(m_messages.first().message, QStringLiteral("请在滚轴界面检查相关参数再运行!"));
-    QCOMPARE(m_messages.first().firstButton, QStringLiteral("确定"));
-    QCOMPARE(m_messages.first().secondButton, QStringLiteral("取消"));
-    const QByteArray job = readFileBytes(Jk_gcode::defaultJobPath());
-    if (answer == 1)
-        QVERIFY(job.contains("G1Z-20.000")); // X written as the rotary's Z
-    else
-        QVERIFY(job.isEmpty());
-}
-
-void TestGcodeUi::runRefusesUnusableRotary()
-{
-    saveRotarySettings(rotarySettings(2, "Y", 100, 0, 360));
-    GcodeJobController controller(nullptr);
-    controller.setLayerList(&m_design.layers);
-    QVERIFY(!controller.prepareRun(m_design.items()));
-    QCOMPARE(m_messages.size(), 1);
-    QCOMPARE(m_messages.first().message, QStringLiteral("请在滚轴界面检查相关参数再运行!"));
-    QVERIFY(!QFile::exists(Jk_gcode::defaultJobPath()));
+    QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains(job));
 }
 
 void TestGcodeUi::saveGcode_data()
 {
     QTest::addColumn<QString>("chosen");
-    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("written"); // empty when nothing is saved
+    QTest::addColumn<QString>("message");
     QTest::newRow("nc") << "a.nc"
-                        << "a.nc";
+                        << "a.nc" << QString();
     QTest::newRow("gcode") << "b.GCODE"
-                           << "b.GCODE";
+                           << "b.GCODE" << QString();
     QTest::newRow("no suffix") << "c"
-                               << "c.nc";
+                               << "c.nc" << QString();
     QTest::newRow("other suffix") << "d.txt"
-                                  << "d.txt.nc";
-    QTest::newRow("cancelled") << ""
-                               << "";
+                                  << "d.txt.nc" << QString();
+    QTest::newRow("cancelled") << QString() << QString() << QString();
+    QTest::newRow("folder missing") << "missing/job.nc" << QString() << "保存失败!";
 }
 
 void TestGcodeUi::saveGcode()
 {
     QFETCH(QString, chosen);
     QFETCH(QString, written);
+    QFETCH(QString, message);
     GcodeJobController controller(nullptr);
     controller.setLayerList(&m_design.layers);
     controller.setFileChooser([&](QWidget *, const QString &) {
@@ -225,23 +239,14 @@ void TestGcodeUi::saveGcode()
     });
     QSignalSpy saved(&controller, &GcodeJobController::saved);
     QCOMPARE(controller.saveGcode(m_design.items()), !written.isEmpty());
-    if (written.isEmpty()) {
-        QCOMPARE(saved.count(), 0);
+    QCOMPARE(m_messages.size(), message.isEmpty() ? 0 : 1);
+    if (!message.isEmpty())
+        QCOMPARE(m_messages.first().message, message);
+    QCOMPARE(saved.count(), written.isEmpty() ? 0 : 1);
+    if (written.isEmpty())
         return;
-    }
-    QCOMPARE(saved.count(), 1);
     QCOMPARE(saved.first().first().toString(), m_dir.filePath(written));
     QVERIFY(readFileBytes(m_dir.filePath(written)).startsWith("M4\nM8\n;L0\n"));
-    QVERIFY(m_messages.isEmpty());
-}
-
-void TestGcodeUi::saveFailureIsReported()
-{
-    GcodeJobController controller(nullptr);
-    controller.setLayerList(&m_design.layers);
-    QVERIFY(!controller.saveGcodeTo(m_design.items(), m_dir.filePath("missing/job.nc")));
-    QCOMPARE(m_messages.size(), 1);
-    QCOMPARE(m_messages.first().message, QStringLiteral("保存失败!"));
 }
 
 QTEST_MAIN(TestGcodeUi)

@@ -13,22 +13,88 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 using namespace lumitra;
+
+using Builder = std::function<void(JobDesign &)>;
+Q_DECLARE_METATYPE(Builder)
 
 namespace {
 
 const QByteArray kHeader("M4\nM8\n");
 const QByteArray kTrailer("M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n");
 
-RotarySettings goldenRotary()
+QPainterPath rectangle(double x, double y, double w, double h)
 {
-    RotarySettings r;
-    r.mode = RotarySettings::ByDiameter;
-    r.axis = QStringLiteral("X");
-    r.diameter = 10;
-    r.unitsPerTurn = 360;
-    return r;
+    QPainterPath p;
+    p.addRect(x, y, w, h);
+    return p;
+}
+
+// The designs kept as golden jobs under tests/data/gcode.
+void buildDesign(const QString &name, JobDesign &d)
+{
+    if (name == QLatin1String("lines")) {
+        d.addLayer(0, false);
+        TuCeng *second = d.addLayer(2, false);
+        second->gonglv = 50;
+        second->sudu = 1200;
+        second->cishu = 2;
+        d.addPath(rectangle(10, -30, 20, 15), 0);
+        QPainterPath circle;
+        circle.addEllipse(QPointF(60, -40), 8, 8);
+        d.addPath(circle, 0);
+        QPainterPath triangle(QPointF(100, -10));
+        triangle.lineTo(120, -10);
+        triangle.lineTo(110, -30);
+        triangle.closeSubpath();
+        Jk_tu_yuan *moved = d.addPath(triangle, 2);
+        moved->setPos(5, -5);
+        moved->setTransform(QTransform().rotate(15));
+    } else if (name == QLatin1String("fills")) {
+        TuCeng *fill = d.addLayer(1, false);
+        fill->moshi = 1;
+        fill->fangxiang = 45;
+        fill->jianju = 1;
+        fill->saomiao = 2;
+        TuCeng *cross = d.addLayer(3, false);
+        cross->moshi = 2;
+        cross->jianju = 0.8;
+        cross->danxiang = true;
+        cross->gonglv = 35;
+        QPainterPath ring = rectangle(0, -20, 20, 20);
+        ring.addRect(6, -14, 8, 8);
+        d.addPath(ring, 1);
+        QPainterPath circle;
+        circle.addEllipse(QPointF(40, -10), 6, 6);
+        d.addPath(circle, 3);
+    } else if (name == QLatin1String("bitmaps")) {
+        TuCeng *threshold = d.addLayer(0, true);
+        threshold->jianju = 0.5;
+        threshold->saomiao = 1;
+        TuCeng *grey = d.addLayer(4, true);
+        grey->moshi = 3;
+        grey->jianju = 0.6;
+        QImage pattern(12, 8, QImage::Format_ARGB32);
+        pattern.fill(Qt::white);
+        for (int y = 0; y < 8; ++y) {
+            for (int x = 0; x < 12; ++x) {
+                if ((x / 3 + y / 2) % 2 == 0 || x == 11)
+                    pattern.setPixel(x, y, qRgb(20, 20, 20));
+            }
+        }
+        d.addBitmap(pattern, 0, QPointF(5, -20));
+        QImage ramp(6, 4, QImage::Format_Grayscale8);
+        for (int y = 0; y < 4; ++y) {
+            for (int x = 0; x < 6; ++x)
+                ramp.scanLine(y)[x] = uchar(x * 51);
+        }
+        d.addBitmap(ramp, 4, QPointF(30, -10))->setTransform(QTransform().rotate(30));
+    } else if (name == QLatin1String("rotary")) {
+        d.addLayer(0, false);
+        d.addPath(rectangle(0, -10, 31.4, 10), 0);
+    }
 }
 
 } // namespace
@@ -39,24 +105,24 @@ class TestJkGcode : public QObject
 
 private slots:
     void init();
-    void emptyDesign_data();
-    void emptyDesign();
-    void passesRepeatItems();
-    void layersInListOrder();
-    void outputOffWritesNothing();
-    void layerComments_data();
-    void layerComments();
-    void cancelledJobKeepsTrailer();
-    void rotaryFromSettingsStore();
-    void refusesUnusableRotary();
-    void refusesUnwritableFile();
-    void defaultFileIsCodeTxt();
+    void jobSteps_data();
+    void jobSteps();
+    void refusals();
     void goldenJobs_data();
     void goldenJobs();
     void randomDesignsAreGrblValid();
 
 private:
-    QString jobPath(const QString &name) const { return m_dir.filePath(name); }
+    // Writes the job for `design` to a fresh default job file (an empty path
+    // stands for it) and returns its bytes.
+    QByteArray run(JobDesign &design, Jk_gcode &generator)
+    {
+        QFile::remove(Jk_gcode::defaultJobPath());
+        generator.setLayerList(&design.layers);
+        if (!generator.kai_shi_zhuan_huan(design.items(), QString()))
+            return QByteArray("refused: ") + generator.lastError().toUtf8();
+        return readFileBytes(Jk_gcode::defaultJobPath());
+    }
     QTemporaryDir m_dir;
 };
 
@@ -66,179 +132,106 @@ void TestJkGcode::init()
     set_setting(QLatin1String(kRotaryModeKey), QStringLiteral("0"));
 }
 
-void TestJkGcode::emptyDesign_data()
+void TestJkGcode::jobSteps_data()
 {
-    QTest::addColumn<QString>("preamble");
-    QTest::newRow("no preamble") << QString();
-    QTest::newRow("preamble") << QStringLiteral("G21\n");
-}
+    QTest::addColumn<Builder>("build");
+    QTest::addColumn<QByteArray>("expected");
 
-void TestJkGcode::emptyDesign()
-{
-    QFETCH(QString, preamble);
-    programState().preamble = preamble;
-    JobDesign design;
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("empty.nc")));
-    QCOMPARE(finished.count(), 1);
-    QCOMPARE(readFileBytes(jobPath("empty.nc")), kHeader + preamble.toLatin1() + kTrailer);
-    QVERIFY(programState().preamble.isEmpty());
-    QVERIFY(generator.lastError().isEmpty());
-}
-
-void TestJkGcode::passesRepeatItems()
-{
-    JobDesign design;
-    design.addLayer(0, false)->cishu = 3;
-    design.addSegment({0, 0}, {20, 0}, 0);
-    design.addSegment({0, -5}, {0, -10}, 0);
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("passes.nc")));
+    QTest::newRow("empty design") << Builder([](JobDesign &) {}) << kHeader + kTrailer;
+    QTest::newRow("pending preamble, written once")
+        << Builder([](JobDesign &) { programState().preamble = QStringLiteral("G90\n"); })
+        << kHeader + "G90\n" + kTrailer;
     // Each path is its own piece, so each starts with all its words again.
     const QByteArray once("G0X0.00Y0.00S800.00F5000.00\nG1X20.00\n"
                           "G0X0.00Y5.00S800.00F5000.00\nG1Y10.00\n");
-    QCOMPARE(readFileBytes(jobPath("passes.nc")),
-             kHeader + ";L0\n" + once + once + once + kTrailer);
+    QTest::newRow("three passes") << Builder([](JobDesign &d) {
+        d.addLayer(0, false)->cishu = 3;
+        d.addSegment({0, 0}, {20, 0}, 0);
+        d.addSegment({0, -5}, {0, -10}, 0);
+    }) << kHeader + ";L0\n" + once + once + once + kTrailer;
+    QTest::newRow("layers in list order")
+        << Builder([](JobDesign &d) {
+               d.addLayer(5, false)->gonglv = 10;
+               d.addLayer(1, false)->gonglv = 20;
+               d.addLayer(1, true); // a bitmap layer with the same number: no vector items
+               d.addSegment({1, 0}, {2, 0}, 1);
+               d.addSegment({3, 0}, {4, 0}, 5);
+               d.addSegment({1, 0}, {2, 0}, 7); // no layer record: not written
+           })
+        << kHeader + ";L5\nG0X3.00Y0.00S100.00F5000.00\nG1X4.00\n"
+               + ";L1\nG0X1.00Y0.00S200.00F5000.00\nG1X2.00\n;L1\n" + kTrailer;
+    QTest::newRow("output off writes nothing") << Builder([](JobDesign &d) {
+        d.addLayer(0, false)->shuchu = false;
+        d.addSegment({1, 0}, {2, 0}, 0);
+    }) << kHeader + kTrailer;
+    QTest::newRow("cancelled job keeps its trailer") << Builder([](JobDesign &d) {
+        buildDesign(QStringLiteral("lines"), d);
+        programState().cancel = true;
+    }) << kHeader + ";L0\n;L2\n" + kTrailer;
+    QTest::newRow("rotary from the settings store")
+        << Builder([](JobDesign &d) {
+               saveRotarySettings(rotarySettings(1, "Y", 180, 50, 360));
+               programState().modelFlag = true;
+               d.addLayer(0, false);
+               d.addSegment({10, 20}, {10, 0}, 0);
+           })
+        << kHeader + "G91\nG0Z-7\nG0Z7\nG90\n;L0\nG0X10.00Z-40.000S800.00F5000.00\nG1Z0.000\n"
+               + kTrailer;
+
+    // Layer names become comments a controller accepts.
+    const QList<QPair<QString, QByteArray>> comments = {
+        {QStringLiteral("cut 2"), ";cut 2\n"},
+        {QStringLiteral("图层!?~"), ";_____\n"},
+        {QString(200, QLatin1Char('a')), ";" + QByteArray(79, 'a') + "\n"}};
+    for (const auto &c : comments) {
+        QTest::newRow(qPrintable("comment " + c.second.trimmed().left(10)))
+            << Builder([name = c.first](JobDesign &d) { d.addLayer(0, false)->mingcheng = name; })
+            << kHeader + c.second + kTrailer;
+    }
 }
 
-void TestJkGcode::layersInListOrder()
+void TestJkGcode::jobSteps()
 {
+    QFETCH(Builder, build);
+    QFETCH(QByteArray, expected);
     JobDesign design;
-    design.addLayer(5, false)->gonglv = 10;
-    design.addLayer(1, false)->gonglv = 20;
-    design.addLayer(1, true); // a bitmap layer with the same number: no vector items
-    design.addSegment({1, 0}, {2, 0}, 1);
-    design.addSegment({3, 0}, {4, 0}, 5);
-    design.addSegment({1, 0}, {2, 0}, 7); // no layer record: not written
+    build(design);
     Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("order.nc")));
-    QCOMPARE(readFileBytes(jobPath("order.nc")),
-             kHeader + ";L5\nG0X3.00Y0.00S100.00F5000.00\nG1X4.00\n"
-                 + ";L1\nG0X1.00Y0.00S200.00F5000.00\nG1X2.00\n;L1\n" + kTrailer);
-}
-
-void TestJkGcode::outputOffWritesNothing()
-{
-    JobDesign design;
-    design.addLayer(0, false)->shuchu = false;
-    design.addSegment({1, 0}, {2, 0}, 0);
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("off.nc")));
-    QCOMPARE(readFileBytes(jobPath("off.nc")), kHeader + kTrailer);
-}
-
-void TestJkGcode::layerComments_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("comment");
-    QTest::newRow("default") << QStringLiteral("L0") << QByteArray(";L0\n");
-    QTest::newRow("spaces kept") << QStringLiteral("cut 2") << QByteArray(";cut 2\n");
-    QTest::newRow("non-ASCII and real-time characters replaced")
-        << QStringLiteral("图层!?~") << QByteArray(";_____\n");
-    QTest::newRow("cut to the line length")
-        << QString(200, QLatin1Char('a')) << ";" + QByteArray(79, 'a') + "\n";
-}
-
-void TestJkGcode::layerComments()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, comment);
-    JobDesign design;
-    design.addLayer(0, false)->mingcheng = name;
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("comment.nc")));
-    const QByteArray job = readFileBytes(jobPath("comment.nc"));
-    QCOMPARE(job, kHeader + comment + kTrailer);
-    QCOMPARE(grblProblem(job), QString());
-}
-
-void TestJkGcode::cancelledJobKeepsTrailer()
-{
-    JobDesign design;
-    buildDesign(QStringLiteral("lines"), design);
-    programState().cancel = true;
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
     QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("cancel.nc")));
+    const QByteArray job = run(design, generator);
+    QCOMPARE(job, expected);
     QCOMPARE(finished.count(), 1);
-    QCOMPARE(readFileBytes(jobPath("cancel.nc")), kHeader + ";L0\n;L2\n" + kTrailer);
+    QCOMPARE(grblProblem(job), QString());
+    QVERIFY(programState().preamble.isEmpty());
 }
 
-void TestJkGcode::rotaryFromSettingsStore()
+void TestJkGcode::refusals()
 {
-    RotarySettings r;
-    r.mode = RotarySettings::ByCircumference;
-    r.axis = QStringLiteral("Y");
-    r.circumference = 180;
-    r.unitsPerTurn = 360;
-    saveRotarySettings(r);
-    programState().modelFlag = true;
+    // Refused jobs leave an existing file alone and do not report completion.
     JobDesign design;
-    design.addLayer(0, false);
-    design.addSegment({10, 20}, {10, 0}, 0);
     Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("rotary.nc")));
-    QCOMPARE(readFileBytes(jobPath("rotary.nc")),
-             kHeader + "G91\nG0Z-7\nG0Z7\nG90\n;L0\nG0X10.00Z-40.000S800.00F5000.00\nG1Z0.000\n"
-                 + kTrailer);
-}
-
-void TestJkGcode::refusesUnusableRotary()
-{
-    RotarySettings r;
-    r.mode = RotarySettings::ByDiameter;
-    r.diameter = 0;
-    Jk_gcode generator;
-    generator.setRotarySettings(r);
-    JobDesign design;
-    generator.setLayerList(&design.layers);
-    QFile old(jobPath("kept.nc"));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("old job\n");
-    old.close();
-    QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
-    QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), jobPath("kept.nc")));
-    QVERIFY(!generator.lastError().isEmpty());
-    QCOMPARE(finished.count(), 0);
-    QCOMPARE(readFileBytes(jobPath("kept.nc")), QByteArray("old job\n"));
-}
-
-void TestJkGcode::refusesUnwritableFile()
-{
-    Jk_gcode generator;
-    JobDesign design;
     generator.setLayerList(&design.layers);
     QSignalSpy finished(&generator, &Jk_gcode::zhuan_huan_wan_cheng);
     QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), m_dir.path())); // a folder
-    QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), jobPath("missing/folder/job.nc")));
+    QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), m_dir.filePath("missing/folder/job.nc")));
     QVERIFY(!generator.lastError().isEmpty());
-    QCOMPARE(finished.count(), 0);
-}
 
-void TestJkGcode::defaultFileIsCodeTxt()
-{
-    QCOMPARE(Jk_gcode::defaultJobPath(), config_dir() + QStringLiteral("/code.txt"));
-    QFile::remove(Jk_gcode::defaultJobPath());
-    JobDesign design;
-    Jk_gcode generator;
-    generator.setLayerList(&design.layers);
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), QString()));
-    QCOMPARE(readFileBytes(Jk_gcode::defaultJobPath()), kHeader + kTrailer);
+    generator.setRotarySettings(rotarySettings(2, "Y", 100, 0, 360)); // no diameter
+    QFile old(m_dir.filePath("kept.nc"));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("old job\n");
+    old.close();
+    QVERIFY(!generator.kai_shi_zhuan_huan(design.items(), old.fileName()));
+    QVERIFY(!generator.lastError().isEmpty());
+    QCOMPARE(readFileBytes(old.fileName()), QByteArray("old job\n"));
+    QCOMPARE(finished.count(), 0);
 }
 
 void TestJkGcode::goldenJobs_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : designNames())
-        QTest::newRow(qPrintable(name)) << name;
+    for (const char *name : {"lines", "fills", "bitmaps", "rotary"})
+        QTest::newRow(name) << QString::fromLatin1(name);
 }
 
 void TestJkGcode::goldenJobs()
@@ -248,13 +241,11 @@ void TestJkGcode::goldenJobs()
     JobDesign design;
     buildDesign(name, design);
     Jk_gcode generator;
-    generator.setLayerList(&design.layers);
     if (name == QLatin1String("rotary")) {
-        generator.setRotarySettings(goldenRotary());
+        generator.setRotarySettings(rotarySettings(2, "X", 100, 10, 360));
         programState().modelFlag = true;
     }
-    QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath(name + ".nc")));
-    const QByteArray job = readFileBytes(jobPath(name + ".nc"));
+    const QByteArray job = run(design, generator);
     QCOMPARE(grblProblem(job), QString());
 
     const QString golden = QStringLiteral(LUMITRA_TEST_DATA_DIR "/gcode/") + name + ".nc";
@@ -286,25 +277,20 @@ void TestJkGcode::randomDesignsAreGrblValid()
         for (int i = 0; i < 15; ++i) {
             QPainterPath p;
             const QPointF c(rng.bounded(400.0), -rng.bounded(400.0));
-            switch (rng.bounded(3)) {
-            case 0:
+            const int shape = rng.bounded(3);
+            if (shape == 0) {
                 p.addEllipse(c, 1 + rng.bounded(30.0), 1 + rng.bounded(30.0));
-                break;
-            case 1:
+            } else if (shape == 1) {
                 p.addRect(c.x(), c.y(), rng.bounded(50.0), rng.bounded(50.0));
-                break;
-            default:
+            } else {
                 p.moveTo(c);
                 p.cubicTo(c + QPointF(30, 0), c + QPointF(0, -40), c + QPointF(20, 20));
-                break;
             }
             Jk_tu_yuan *item = design.addPath(p, rng.bounded(3));
             item->setTransform(QTransform().rotate(rng.bounded(360.0)));
         }
         Jk_gcode generator;
-        generator.setLayerList(&design.layers);
-        QVERIFY(generator.kai_shi_zhuan_huan(design.items(), jobPath("random.nc")));
-        const QByteArray job = readFileBytes(jobPath("random.nc"));
+        const QByteArray job = run(design, generator);
         QVERIFY(job.size() > 1000);
         QCOMPARE(grblProblem(job), QString());
     }

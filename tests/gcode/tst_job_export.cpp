@@ -99,13 +99,11 @@ void TestJobExport::exportsEveryKind_data()
     QTest::addColumn<int>("passes");  // times the first move appears
     QTest::addColumn<bool>("coasts"); // must have S0.00 moves (overscan, raster gaps)
 
+    const Options fill{{"mode", "fill"},  {"spacing", "0.5"}, {"angle", "45"},  {"power", "30"},
+                       {"speed", "1200"}, {"passes", "2"},    {"overscan", "1"}};
     QTest::newRow("svg lines") << "drawing.svg" << Options() << "800.00"
                                << "5000.00" << 1 << false;
-    QTest::newRow("svg fill") << "drawing.svg"
-                              << Options{{"mode", "fill"}, {"spacing", "0.5"}, {"angle", "45"},
-                                         {"power", "30"},  {"speed", "1200"},  {"passes", "2"},
-                                         {"overscan", "1"}}
-                              << "300.00"
+    QTest::newRow("svg fill") << "drawing.svg" << fill << "300.00"
                               << "1200.00" << 2 << true;
     QTest::newRow("svg cross fill") << "drawing.svg" << Options{{"mode", "crossfill"}} << "800.00"
                                     << "5000.00" << 1 << false;
@@ -198,36 +196,23 @@ void TestJobExport::refusals_data()
     QTest::addColumn<QString>("output");
     QTest::addColumn<Options>("options");
 
-    QTest::newRow("missing input") << "nothing.svg"
-                                   << "out.nc" << Options();
-    QTest::newRow("unsupported input") << "notes.txt"
-                                       << "out.nc" << Options();
-    QTest::newRow("no shapes") << "empty.svg"
-                               << "out.nc" << Options();
-    QTest::newRow("damaged project") << "broken.lumitra"
-                                     << "out.nc" << Options();
-    QTest::newRow("power above 100") << "drawing.svg"
-                                     << "out.nc" << Options{{"power", "101"}};
-    QTest::newRow("speed not a number") << "drawing.svg"
-                                        << "out.nc" << Options{{"speed", "fast"}};
-    QTest::newRow("passes zero") << "drawing.svg"
-                                 << "out.nc" << Options{{"passes", "0"}};
-    QTest::newRow("angle with decimals") << "drawing.svg"
-                                         << "out.nc" << Options{{"angle", "12.5"}};
-    QTest::newRow("spacing too fine") << "drawing.svg"
-                                      << "out.nc" << Options{{"spacing", "0.001"}};
-    QTest::newRow("overscan negative") << "drawing.svg"
-                                       << "out.nc" << Options{{"overscan", "-1"}};
-    QTest::newRow("bitmap mode on a drawing") << "drawing.svg"
-                                              << "out.nc" << Options{{"mode", "dither"}};
-    QTest::newRow("vector mode on a bitmap") << "ramp.png"
-                                             << "out.nc" << Options{{"mode", "fill"}};
-    QTest::newRow("unknown mode") << "ramp.png"
-                                  << "out.nc" << Options{{"mode", "sketch"}};
-    QTest::newRow("unknown option") << "ramp.png"
-                                    << "out.nc" << Options{{"colour", "red"}};
-    QTest::newRow("no output") << "drawing.svg"
-                               << "" << Options();
+    const QString out = QStringLiteral("out.nc");
+    QTest::newRow("missing input") << "nothing.svg" << out << Options();
+    QTest::newRow("unsupported input") << "notes.txt" << out << Options();
+    QTest::newRow("no shapes") << "empty.svg" << out << Options();
+    QTest::newRow("damaged project") << "broken.lumitra" << out << Options();
+    QTest::newRow("power above 100") << "drawing.svg" << out << Options{{"power", "101"}};
+    QTest::newRow("speed not a number") << "drawing.svg" << out << Options{{"speed", "fast"}};
+    QTest::newRow("passes zero") << "drawing.svg" << out << Options{{"passes", "0"}};
+    QTest::newRow("angle with decimals") << "drawing.svg" << out << Options{{"angle", "12.5"}};
+    QTest::newRow("spacing too fine") << "drawing.svg" << out << Options{{"spacing", "0.001"}};
+    QTest::newRow("overscan negative") << "drawing.svg" << out << Options{{"overscan", "-1"}};
+    QTest::newRow("bitmap mode on a drawing")
+        << "drawing.svg" << out << Options{{"mode", "dither"}};
+    QTest::newRow("vector mode on a bitmap") << "ramp.png" << out << Options{{"mode", "fill"}};
+    QTest::newRow("unknown mode") << "ramp.png" << out << Options{{"mode", "sketch"}};
+    QTest::newRow("unknown option") << "ramp.png" << out << Options{{"colour", "red"}};
+    QTest::newRow("no output") << "drawing.svg" << QString() << Options();
     QTest::newRow("output folder missing") << "drawing.svg"
                                            << "no/such/folder/out.nc" << Options();
 }

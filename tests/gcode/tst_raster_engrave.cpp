@@ -20,44 +20,32 @@ LevelMap mapOf(const QStringList &rows)
     m.height = rows.size();
     m.width = rows.first().size();
     for (const QString &row : rows) {
-        for (const QChar c : row) {
-            if (c == QLatin1Char('#'))
-                m.levels.push_back(0);
-            else if (c == QLatin1Char('.'))
-                m.levels.push_back(LevelMap::kWhite);
-            else
-                m.levels.push_back((unsigned char)(c.digitValue() * 25));
-        }
+        for (const QChar c : row)
+            m.levels.push_back(c == '#' ? 0 : c == '.' ? LevelMap::kWhite : c.digitValue() * 25);
     }
     return m;
 }
 
-RasterSettings raster(double spacing, double overscan = 0, bool oneDirection = false,
-                      bool grey = false)
+RecordingSink engrave(const LevelMap &map, const QTransform &toScene, double spacing,
+                      double overscan = 0, bool oneDirection = false, bool grey = false)
 {
     RasterSettings s;
     s.spacing = spacing;
     s.overscan = overscan;
     s.oneDirection = oneDirection;
     s.greyPower = grey;
-    return s;
+    RecordingSink sink;
+    engraveRaster(map, toScene, s, sink);
+    return sink;
 }
 
-// Burnt x intervals on the scan line at scene y, sorted.
-QVector<QPair<double, double>> burntOnLine(const RecordingSink &sink, double y)
+// The steps as text: kind letter and scene point, e.g. "T-2,0.5 B3,0.5".
+QString trace(const RecordingSink &sink)
 {
-    QVector<QPair<double, double>> out;
-    for (const auto &b : sink.burns()) {
-        if (std::fabs(b.first.y() - y) < 1e-9)
-            out.append({qMin(b.first.x(), b.second.x()), qMax(b.first.x(), b.second.x())});
-    }
-    std::sort(out.begin(), out.end());
-    return out;
-}
-
-bool near(double a, double b)
-{
-    return std::fabs(a - b) < 1e-9;
+    QStringList out;
+    for (const ToolStep &s : sink.steps)
+        out << QStringLiteral("%1%2,%3").arg("TBCG"[s.kind]).arg(s.at.x()).arg(s.at.y());
+    return out.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -67,46 +55,22 @@ class TestRasterEngrave : public QObject
     Q_OBJECT
 
 private slots:
-    void runsFollowPixels();
     void transformedBitmaps_data();
     void transformedBitmaps();
-    void gapsCoastedOrTravelled_data();
-    void gapsCoastedOrTravelled();
-    void overscanAtLineEnds();
-    void alternatesUnlessOneDirection_data();
-    void alternatesUnlessOneDirection();
+    void lineOrderAndGaps_data();
+    void lineOrderAndGaps();
     void greyRunsMergedAndScaled();
-    void allWhiteWritesNothing();
-    void stopsWhenAsked();
+    void nothingToBurnAndStop();
     void binaryLevels_data();
     void binaryLevels();
-    void greyLevelsOfImages();
-    void modesPickTheirOutput();
+    void levelsOfModes();
     void bitmapItemPlacement();
 };
-
-void TestRasterEngrave::runsFollowPixels()
-{
-    // 1 mm pixels with the top-left corner at scene (10, -4).
-    const LevelMap map = mapOf({"##..#", ".....", "..###", "#...#"});
-    const QTransform toScene = QTransform::fromTranslate(10, -4);
-    RecordingSink sink;
-    engraveRaster(map, toScene, raster(0.5), sink);
-    // Lines at y = -3.75, -3.25 (row 0), -2.75, -2.25 (row 1, white), ...
-    const QVector<QPair<double, double>> row0 = {{10, 12}, {14, 15}};
-    QCOMPARE(burntOnLine(sink, -3.75), row0);
-    QCOMPARE(burntOnLine(sink, -3.25), row0);
-    QVERIFY(burntOnLine(sink, -2.75).isEmpty());
-    QCOMPARE(burntOnLine(sink, -1.25), (QVector<QPair<double, double>>{{12, 15}}));
-    QCOMPARE(burntOnLine(sink, -0.25), (QVector<QPair<double, double>>{{10, 11}, {14, 15}}));
-    QCOMPARE(sink.burns().size(), 2 + 2 + 1 + 1 + 2 + 2);
-}
 
 void TestRasterEngrave::transformedBitmaps_data()
 {
     QTest::addColumn<QTransform>("toScene");
     QTest::newRow("scaled") << QTransform::fromScale(0.254, 0.254);
-    QTest::newRow("rotated 90") << QTransform().rotate(90);
     QTest::newRow("rotated 30, moved")
         << QTransform().rotate(30) * QTransform::fromTranslate(50, -20);
     QTest::newRow("mirrored") << QTransform::fromScale(-2, 1.5);
@@ -118,15 +82,12 @@ void TestRasterEngrave::transformedBitmaps()
     // Every burnt stretch must lie over black pixels, and the burnt length
     // times the spacing must match the black area in the scene.
     QFETCH(QTransform, toScene);
-    const LevelMap map
-        = mapOf({"..####..", ".#....#.", "#..##..#", "#..##..#", ".######.", "........"});
-    int black = 0;
-    for (unsigned char l : map.levels)
-        black += l == 0;
+    const LevelMap map =
+        mapOf({"..####..", ".#....#.", "#..##..#", "#..##..#", ".######.", "........"});
+    const int black = int(std::count(map.levels.begin(), map.levels.end(), 0));
     const double pixelArea = std::fabs(toScene.determinant());
     const double spacing = 0.01 * std::sqrt(pixelArea);
-    RecordingSink sink;
-    engraveRaster(map, toScene, raster(spacing), sink);
+    const RecordingSink sink = engrave(map, toScene, spacing);
     const QTransform toPixel = toScene.inverted();
     for (const auto &b : sink.burns()) {
         for (double f : {0.01, 0.5, 0.99}) {
@@ -134,130 +95,70 @@ void TestRasterEngrave::transformedBitmaps()
             QCOMPARE(int(map.at(int(std::floor(p.x())), int(std::floor(p.y())))), 0);
         }
     }
-    const double area = sink.burntLength() * spacing;
+    const double area = sink.length(ToolStep::Burn) * spacing;
     QVERIFY2(std::fabs(area - black * pixelArea) < black * pixelArea * 0.02,
              qPrintable(QStringLiteral("%1 vs %2").arg(area).arg(black * pixelArea)));
 }
 
-void TestRasterEngrave::gapsCoastedOrTravelled_data()
+void TestRasterEngrave::lineOrderAndGaps_data()
 {
-    QTest::addColumn<double>("gap");
+    // 1 mm pixels, 1 mm spacing: lines at y = 0.5, 1.5, ...
+    QTest::addColumn<QStringList>("rows");
     QTest::addColumn<double>("overscan");
-    QTest::addColumn<bool>("travelled");
-    QTest::newRow("short gap coasted") << 4.0 << 0.0 << false;
-    QTest::newRow("long gap travelled") << 6.0 << 0.0 << true;
-    QTest::newRow("overscan makes it short") << 6.0 << 1.0 << false;
-    QTest::newRow("long even with overscan") << 9.0 << 1.0 << true;
-}
-
-void TestRasterEngrave::gapsCoastedOrTravelled()
-{
-    QFETCH(double, gap);
-    QFETCH(double, overscan);
-    QFETCH(bool, travelled);
-    // Two black pixels of 1 mm with `gap` mm of white between them, one line.
-    const int white = int(gap);
-    const LevelMap map = mapOf({"#" + QString(white, QLatin1Char('.')) + "#"});
-    RecordingSink sink;
-    engraveRaster(map, QTransform(), raster(1, overscan), sink);
-    QVector<ToolStep::Kind> kinds;
-    for (const ToolStep &s : sink.steps)
-        kinds.append(s.kind);
-    using K = ToolStep::Kind;
-    QVector<K> expected;
-    if (overscan > 0)
-        expected = travelled
-                       ? QVector<K>{K::Travel, K::Coast, K::Burn, K::Coast,
-                                    K::Travel, K::Coast, K::Burn, K::Coast}
-                       : QVector<K>{K::Travel, K::Coast, K::Burn, K::Coast, K::Burn, K::Coast};
-    else
-        expected = travelled ? QVector<K>{K::Travel, K::Burn, K::Travel, K::Burn}
-                             : QVector<K>{K::Travel, K::Burn, K::Coast, K::Burn};
-    QCOMPARE(kinds, expected);
-    // The second burn starts exactly where the second pixel starts.
-    const auto burns = sink.burns();
-    QCOMPARE(burns.size(), 2);
-    QVERIFY(near(burns[1].first.x(), 1 + white));
-    QVERIFY(near(burns[1].second.x(), 2 + white));
-    if (travelled && overscan > 0) {
-        QVERIFY(near(sink.steps[3].at.x(), 1 + overscan));         // lead-out after the first pixel
-        QVERIFY(near(sink.steps[4].at.x(), 1 + white - overscan)); // lead-in before the second
-    }
-}
-
-void TestRasterEngrave::overscanAtLineEnds()
-{
-    const LevelMap map = mapOf({".##.", "....", ".##."});
-    RecordingSink sink;
-    engraveRaster(map, QTransform(), raster(1, 3), sink);
-    // Two lines (rows 0 and 2), each: travel, coast in, burn, coast out.
-    QCOMPARE(sink.steps.size(), 8);
-    QCOMPARE(sink.steps[0].at, QPointF(-2, 0.5));
-    QCOMPARE(sink.steps[1].at, QPointF(1, 0.5));
-    QCOMPARE(sink.steps[2].at, QPointF(3, 0.5));
-    QCOMPARE(sink.steps[3].at, QPointF(6, 0.5));
-    // The second line runs back.
-    QCOMPARE(sink.steps[4].at, QPointF(6, 2.5));
-    QCOMPARE(sink.steps[5].at, QPointF(3, 2.5));
-    QCOMPARE(sink.steps[6].at, QPointF(1, 2.5));
-    QCOMPARE(sink.steps[7].at, QPointF(-2, 2.5));
-    QCOMPARE(sink.steps[3].kind, ToolStep::Coast);
-}
-
-void TestRasterEngrave::alternatesUnlessOneDirection_data()
-{
     QTest::addColumn<bool>("oneDirection");
-    QTest::newRow("alternating") << false;
-    QTest::newRow("one direction") << true;
+    QTest::addColumn<QString>("steps");
+
+    // White lines are skipped and do not count for the alternation.
+    QTest::newRow("overscan at line ends, alternating")
+        << QStringList{".##.", "....", ".##."} << 3.0 << false
+        << "T-2,0.5 C1,0.5 B3,0.5 C6,0.5 T6,2.5 C3,2.5 B1,2.5 C-2,2.5";
+    QTest::newRow("one direction") << QStringList{".##.", "....", ".##."} << 3.0 << true
+                                   << "T-2,0.5 C1,0.5 B3,0.5 C6,0.5 T-2,2.5 C1,2.5 B3,2.5 C6,2.5";
+    QTest::newRow("equal pixels make one run, runs alternate")
+        << QStringList{"###", "###", "#.."} << 0.0 << false
+        << "T0,0.5 B3,0.5 T3,1.5 B0,1.5 T0,2.5 B1,2.5";
+    // A white gap longer than 5 mm plus both overscans is travelled, a shorter one coasted.
+    QTest::newRow("short gap coasted")
+        << QStringList{"#....#"} << 0.0 << false << "T0,0.5 B1,0.5 C5,0.5 B6,0.5";
+    QTest::newRow("long gap travelled")
+        << QStringList{"#......#"} << 0.0 << false << "T0,0.5 B1,0.5 T7,0.5 B8,0.5";
+    QTest::newRow("overscan makes it short")
+        << QStringList{"#......#"} << 1.0 << false << "T-1,0.5 C0,0.5 B1,0.5 C7,0.5 B8,0.5 C9,0.5";
+    QTest::newRow("long even with overscan")
+        << QStringList{"#.........#"} << 1.0 << false
+        << "T-1,0.5 C0,0.5 B1,0.5 C2,0.5 T9,0.5 C10,0.5 B11,0.5 C12,0.5";
 }
 
-void TestRasterEngrave::alternatesUnlessOneDirection()
+void TestRasterEngrave::lineOrderAndGaps()
 {
+    QFETCH(QStringList, rows);
+    QFETCH(double, overscan);
     QFETCH(bool, oneDirection);
-    const LevelMap map = mapOf({"###", "...", "###", "###", "#.."});
-    RecordingSink sink;
-    engraveRaster(map, QTransform(), raster(1, 0, oneDirection), sink);
-    const auto burns = sink.burns();
-    QCOMPARE(burns.size(), 4); // the white row is skipped and does not count
-    for (int i = 0; i < burns.size(); ++i) {
-        const bool rightwards = burns[i].second.x() > burns[i].first.x();
-        QCOMPARE(rightwards, oneDirection || i % 2 == 0);
-    }
+    QFETCH(QString, steps);
+    QCOMPARE(trace(engrave(mapOf(rows), QTransform(), 1, overscan, oneDirection)), steps);
 }
 
 void TestRasterEngrave::greyRunsMergedAndScaled()
 {
-    const LevelMap map = mapOf({"2233.#.9"});
-    RecordingSink sink;
-    engraveRaster(map, QTransform(), raster(1, 0, false, true), sink);
-    QVector<QPair<double, int>> greys;
-    for (const ToolStep &s : sink.steps) {
-        if (s.kind == ToolStep::Grey)
-            greys.append({s.at.x(), s.grey});
-    }
-    const QVector<QPair<double, int>> expected = {{2, 50}, {4, 75}, {6, 0}, {8, 225}};
-    QCOMPARE(greys, expected);
-    // White pixels are crossed, never burnt.
-    int coasts = 0;
+    // Equal neighbours merge, white is coasted over, grey levels go with the burn.
+    const RecordingSink sink = engrave(mapOf({"2233.#.9"}), QTransform(), 1, 0, false, true);
+    QString greys;
     for (const ToolStep &s : sink.steps)
-        coasts += s.kind == ToolStep::Coast;
-    QCOMPARE(coasts, 2);
+        greys += QStringLiteral("%1%2:%3 ").arg("TBCG"[s.kind]).arg(s.at.x()).arg(s.grey);
+    QCOMPARE(greys, QStringLiteral("T0:0 G2:50 G4:75 C5:0 G6:0 C7:0 G8:225 "));
 }
 
-void TestRasterEngrave::allWhiteWritesNothing()
+void TestRasterEngrave::nothingToBurnAndStop()
 {
-    RecordingSink sink;
-    engraveRaster(mapOf({"....", "...."}), QTransform(), raster(0.1), sink);
-    QVERIFY(sink.steps.isEmpty());
-    engraveRaster(mapOf({"#"}), QTransform::fromScale(0, 1), raster(0.1), sink);
-    QVERIFY(sink.steps.isEmpty()); // a flattened bitmap has no area
-}
+    QVERIFY(engrave(mapOf({"....", "...."}), QTransform(), 0.1).steps.isEmpty());
+    // A flattened bitmap has no area.
+    QVERIFY(engrave(mapOf({"#"}), QTransform::fromScale(0, 1), 0.1).steps.isEmpty());
 
-void TestRasterEngrave::stopsWhenAsked()
-{
     RecordingSink sink;
     sink.stopAfter = 5;
-    engraveRaster(mapOf({"#.#", "#.#", "#.#"}), QTransform(), raster(0.5), sink);
+    RasterSettings settings;
+    settings.spacing = 0.5;
+    engraveRaster(mapOf({"#.#", "#.#", "#.#"}), QTransform(), settings, sink);
     QVERIFY(sink.steps.size() >= 5);
     QVERIFY(sink.steps.size() < 10); // the current line is finished, no more
 }
@@ -267,9 +168,8 @@ void TestRasterEngrave::binaryLevels_data()
     QTest::addColumn<int>("format");
     QTest::addColumn<QColor>("colour");
     QTest::addColumn<int>("level");
-    const QImage::Format formats[] = {QImage::Format_ARGB32, QImage::Format_RGBA8888,
-                                      QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888};
-    for (QImage::Format f : formats) {
+    for (QImage::Format f : {QImage::Format_ARGB32, QImage::Format_RGBA8888,
+                             QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888}) {
         const QByteArray name = QByteArray::number(int(f));
         QTest::newRow(name + " black") << int(f) << QColor(0, 0, 0) << 0;
         QTest::newRow(name + " grey 127") << int(f) << QColor(127, 127, 127) << 0;
@@ -293,22 +193,18 @@ void TestRasterEngrave::binaryLevels()
     const LevelMap map = lumitra::binaryLevels(image);
     QCOMPARE(map.width, 3);
     QCOMPARE(map.height, 2);
-    for (unsigned char l : map.levels)
-        QCOMPARE(int(l), level);
+    QCOMPARE(int(std::count(map.levels.begin(), map.levels.end(), level)), 6);
 }
 
-void TestRasterEngrave::greyLevelsOfImages()
+void TestRasterEngrave::levelsOfModes()
 {
-    QImage image(2, 1, QImage::Format_ARGB32);
-    image.setPixel(0, 0, qRgba(200, 100, 40, 255));
-    image.setPixel(1, 0, qRgba(10, 10, 10, 0));
-    const LevelMap map = greyLevels(image);
-    QCOMPARE(int(map.at(0, 0)), (11 * 200 + 16 * 100 + 5 * 40) / 32);
-    QCOMPARE(int(map.at(1, 0)), 255);
-}
+    QImage colour(2, 1, QImage::Format_ARGB32);
+    colour.setPixel(0, 0, qRgba(200, 100, 40, 255));
+    colour.setPixel(1, 0, qRgba(10, 10, 10, 0));
+    const LevelMap levels = greyLevels(colour);
+    QCOMPARE(int(levels.at(0, 0)), (11 * 200 + 16 * 100 + 5 * 40) / 32);
+    QCOMPARE(int(levels.at(1, 0)), 255); // transparent is white
 
-void TestRasterEngrave::modesPickTheirOutput()
-{
     QImage white(4, 4, QImage::Format_ARGB32);
     white.fill(Qt::white);
     QImage grey = white;
@@ -323,36 +219,32 @@ void TestRasterEngrave::modesPickTheirOutput()
     QCOMPARE(count(levelsForMode(grey, GreyscaleMode), 60), 16);
     QCOMPARE(count(levelsForMode(white, OutlineMode), 255), 16); // flat: no edges
     QVERIFY(levelsForMode(grey, 5).isEmpty());
-    const LevelMap dithered = levelsForMode(grey, DitherMode);
-    const int dark = count(dithered, 0);
+    const int dark = count(levelsForMode(grey, DitherMode), 0);
     QVERIFY(dark > 0 && dark < 16); // grey 60 dithers to mostly black with some white
 }
 
 void TestRasterEngrave::bitmapItemPlacement()
 {
+    // 1000 x 500 pixels at 254 DPI: 254 x 127 mm, the top-left corner at the item's place.
     QImage image(1000, 500, QImage::Format_Grayscale8);
     image.fill(0);
     Jk_tu_yuan item(image);
     item.setPos(10, -200);
     const QTransform t = pixelToScene(item, image.size());
     QCOMPARE(t.map(QPointF(0, 0)), QPointF(10, -200));
-    QVERIFY(near(t.map(QPointF(1000, 500)).x(), 10 + 254));
-    QVERIFY(near(t.map(QPointF(1000, 500)).y(), -200 + 127));
+    QVERIFY(QLineF(t.map(QPointF(1000, 500)), QPointF(10 + 254, -200 + 127)).length() < 1e-9);
 
     item.setTransform(QTransform().rotate(90));
-    const QTransform r = pixelToScene(item, image.size());
-    const QPointF corner = r.map(QPointF(1000, 0)); // top-right pixel corner
-    QVERIFY(near(corner.x(), 10));
-    QVERIFY(near(corner.y(), -200 + 254));
+    const QPointF corner = pixelToScene(item, image.size()).map(QPointF(1000, 0));
+    QVERIFY(QLineF(corner, QPointF(10, -200 + 254)).length() < 1e-9); // top-right pixel corner
 
-    // The whole item burns: 254 x 127 mm at 1 mm spacing = 127 lines of 254 mm (rotated: 254 of
-    // 127).
+    // The whole item burns: rotated, 254 lines of 127 mm at 1 mm spacing.
     TuCeng layer(0, true);
     layer.jianju = 1;
     RecordingSink sink;
     engraveBitmapItem(item, layer, sink);
     QCOMPARE(sink.burns().size(), 254);
-    QVERIFY(std::fabs(sink.burntLength() - 254 * 127) < 1e-6);
+    QVERIFY(std::fabs(sink.length(ToolStep::Burn) - 254 * 127) < 1e-6);
 }
 
 QTEST_MAIN(TestRasterEngrave)

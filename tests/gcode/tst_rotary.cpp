@@ -19,10 +19,8 @@ private slots:
     void settingsRoundTrip_data();
     void settingsRoundTrip();
     void missingSettingsKeepDefaults();
-    void usability_data();
-    void usability();
-    void bumps_data();
-    void bumps();
+    void usabilityAndBumps_data();
+    void usabilityAndBumps();
 };
 
 void TestRotary::rewrite_data()
@@ -75,42 +73,33 @@ void TestRotary::rewrite()
 
 void TestRotary::settingsRoundTrip_data()
 {
+    // Doubles are stored in their shortest form with six significant digits.
     QTest::addColumn<RotarySettings>("settings");
-    QTest::addColumn<QString>("circumferenceText");
-    QTest::addColumn<QString>("diameterText");
-    QTest::addColumn<QString>("unitsText");
-
-    QTest::newRow("whole numbers") << rotarySettings(1, "Y", 180, 50, 360) << "180"
-                                   << "50"
-                                   << "360";
+    QTest::addColumn<QStringList>("stored"); // circumference, diameter, units per turn
     QTest::newRow("six significant digits")
-        << rotarySettings(2, "X", 3.14159265, 12.3456789, 0.000123456) << "3.14159"
-        << "12.3457"
-        << "0.000123456";
-    QTest::newRow("large") << rotarySettings(0, "A", 1234567, 0.5, 100) << "1.23457e+06"
-                           << "0.5"
-                           << "100";
+        << rotarySettings(2, "X", 3.14159265, 12.3456789, 0.000123456)
+        << QStringList{"3.14159", "12.3457", "0.000123456"};
+    QTest::newRow("large") << rotarySettings(0, "A", 1234567, 0.5, 100)
+                           << QStringList{"1.23457e+06", "0.5", "100"};
 }
 
 void TestRotary::settingsRoundTrip()
 {
     QFETCH(RotarySettings, settings);
-    QFETCH(QString, circumferenceText);
-    QFETCH(QString, diameterText);
-    QFETCH(QString, unitsText);
+    QFETCH(QStringList, stored);
     saveRotarySettings(settings);
-    QCOMPARE(get_setting(QLatin1String(kRotaryCircumferenceKey)), circumferenceText);
-    QCOMPARE(get_setting(QLatin1String(kRotaryDiameterKey)), diameterText);
-    QCOMPARE(get_setting(QLatin1String(kRotaryUnitsKey)), unitsText);
+    QCOMPARE(get_setting(QLatin1String(kRotaryCircumferenceKey)), stored[0]);
+    QCOMPARE(get_setting(QLatin1String(kRotaryDiameterKey)), stored[1]);
+    QCOMPARE(get_setting(QLatin1String(kRotaryUnitsKey)), stored[2]);
     QCOMPARE(get_setting(QLatin1String(kRotaryModeKey)), QString::number(settings.mode));
     QCOMPARE(get_setting(QLatin1String(kRotaryAxisKey)), settings.axis);
 
     const RotarySettings loaded = loadRotarySettings();
     QCOMPARE(loaded.mode, settings.mode);
     QCOMPARE(loaded.axis, settings.axis);
-    QCOMPARE(loaded.circumference, circumferenceText.toDouble());
-    QCOMPARE(loaded.diameter, diameterText.toDouble());
-    QCOMPARE(loaded.unitsPerTurn, unitsText.toDouble());
+    QCOMPARE(loaded.circumference, stored[0].toDouble());
+    QCOMPARE(loaded.diameter, stored[1].toDouble());
+    QCOMPARE(loaded.unitsPerTurn, stored[2].toDouble());
 }
 
 void TestRotary::missingSettingsKeepDefaults()
@@ -128,48 +117,40 @@ void TestRotary::missingSettingsKeepDefaults()
     QCOMPARE(loaded.unitsPerTurn, defaults.unitsPerTurn);
 }
 
-void TestRotary::usability_data()
+void TestRotary::usabilityAndBumps_data()
 {
     QTest::addColumn<RotarySettings>("settings");
     QTest::addColumn<bool>("usable");
-    QTest::newRow("off ignores zeros") << rotarySettings(0, "Y", 0, 0, 0) << true;
-    QTest::newRow("circumference zero") << rotarySettings(1, "Y", 0, 50, 360) << false;
-    QTest::newRow("circumference mode ignores diameter")
-        << rotarySettings(1, "Y", 100, 0, 360) << true;
-    QTest::newRow("diameter negative") << rotarySettings(2, "Y", 100, -1, 360) << false;
-    QTest::newRow("no units") << rotarySettings(2, "Y", 100, 50, 0) << false;
-}
-
-void TestRotary::usability()
-{
-    QFETCH(RotarySettings, settings);
-    QFETCH(bool, usable);
-    QCOMPARE(settings.isUsable(), usable);
-}
-
-void TestRotary::bumps_data()
-{
-    QTest::addColumn<RotarySettings>("settings");
     QTest::addColumn<bool>("jobFlag");
-    QTest::addColumn<QByteArray>("start");
-    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<QByteArray>("start"); // the bump before the job
+    QTest::addColumn<QByteArray>("path");  // the bump after each path's first move
 
     const QByteArray up("G91\nG0Z7\nG0Z-7\nG90\n");
     const QByteArray down("G91\nG0Z-7\nG0Z7\nG90\n");
-    QTest::newRow("off") << rotarySettings(0, "X", 1, 1, 1) << true << QByteArray() << QByteArray();
-    QTest::newRow("X with flag") << rotarySettings(1, "X", 1, 1, 1) << true << up << up;
+    const QByteArray none;
+    QTest::newRow("off ignores zeros")
+        << rotarySettings(0, "X", 0, 0, 0) << true << true << none << none;
+    QTest::newRow("circumference zero")
+        << rotarySettings(1, "Y", 0, 50, 360) << false << true << down << none;
+    QTest::newRow("X, circumference mode ignores diameter")
+        << rotarySettings(1, "X", 100, 0, 360) << true << true << up << up;
     QTest::newRow("X without flag")
-        << rotarySettings(2, "X", 1, 1, 1) << false << QByteArray() << up;
-    QTest::newRow("Y with flag") << rotarySettings(1, "Y", 1, 1, 1) << true << down << QByteArray();
-    QTest::newRow("mode 3 on X") << rotarySettings(3, "X", 1, 1, 1) << true << QByteArray() << up;
+        << rotarySettings(2, "X", 1, 1, 1) << true << false << none << up;
+    QTest::newRow("diameter negative")
+        << rotarySettings(2, "Y", 100, -1, 360) << false << true << down << none;
+    QTest::newRow("no units") << rotarySettings(2, "Y", 100, 50, 0) << false << true << down
+                              << none;
+    QTest::newRow("mode 3 on X") << rotarySettings(3, "X", 1, 1, 1) << true << true << none << up;
 }
 
-void TestRotary::bumps()
+void TestRotary::usabilityAndBumps()
 {
     QFETCH(RotarySettings, settings);
+    QFETCH(bool, usable);
     QFETCH(bool, jobFlag);
     QFETCH(QByteArray, start);
     QFETCH(QByteArray, path);
+    QCOMPARE(settings.isUsable(), usable);
     QCOMPARE(rotaryStartBump(settings, jobFlag), start);
     QCOMPARE(rotaryPathBump(settings), path);
 }
