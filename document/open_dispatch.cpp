@@ -70,9 +70,12 @@ bool isOpenableFile(const QString &path)
 
 QList<Jk_tu_yuan *> importBitmapFile(const QString &path, QString *message)
 {
+    const QString unreadable = QCoreApplication::translate("OpenDispatch", "图片无法读取!");
     const QSize size = QImageReader(path).size();
     if (!size.isValid()) {
         qDebug() << " open image failed" << path;
+        if (message)
+            *message = unreadable;
         return {};
     }
     if (qint64(size.width()) * size.height() > kMaxImportPixels) {
@@ -84,6 +87,8 @@ QList<Jk_tu_yuan *> importBitmapFile(const QString &path, QString *message)
     if (item->source_image.isNull()) {
         qDebug() << " open image failed" << path;
         delete item;
+        if (message)
+            *message = unreadable;
         return {};
     }
     return {item};

@@ -48,7 +48,7 @@ QString projectExtension();
 bool isOpenableFile(const QString &path);
 
 // The built-in importer for PNG, BMP and JPEG files: one bitmap item with the
-// per-pixel grey step, centred and selected. Images above kMaxImportPixels are
-// refused with a message; unreadable files give nothing.
+// per-pixel grey step, centred and selected. Images above kMaxImportPixels and
+// files that do not decode are refused with a message.
 constexpr qint64 kMaxImportPixels = 100'000'000;
 QList<Jk_tu_yuan *> importBitmapFile(const QString &path, QString *message);

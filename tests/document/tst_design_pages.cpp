@@ -352,9 +352,9 @@ private slots:
         QTest::addColumn<bool>("message");
         QTest::addColumn<int>("outcome");
         QTest::newRow("not an image")
-            << "broken.png" << QByteArray("this is not an image") << false << int(Open::Failed);
+            << "broken.png" << QByteArray("this is not an image") << true << int(Open::Failed);
         QTest::newRow("missing image")
-            << "missing.png" << QByteArray() << false << int(Open::Failed);
+            << "missing.png" << QByteArray() << true << int(Open::Failed);
         QTest::newRow("oversized image")
             << "huge.png" << pngbytes::lyingPng(30000, 30000) << true << int(Open::Failed);
         QTest::newRow("missing project")
