@@ -740,6 +740,10 @@
         <source>图片太大,无法打开!</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>图片无法读取!</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectCommands</name>

@@ -740,6 +740,10 @@
         <source>图片太大,无法打开!</source>
         <translation>The image is too large to open!</translation>
     </message>
+    <message>
+        <source>图片无法读取!</source>
+        <translation>The image cannot be read!</translation>
+    </message>
 </context>
 <context>
     <name>ProjectCommands</name>

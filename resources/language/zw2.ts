@@ -740,6 +740,10 @@
         <source>图片太大,无法打开!</source>
         <translation>图片太大,无法打开!</translation>
     </message>
+    <message>
+        <source>图片无法读取!</source>
+        <translation>图片无法读取!</translation>
+    </message>
 </context>
 <context>
     <name>ProjectCommands</name>
