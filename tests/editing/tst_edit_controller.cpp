@@ -1,5 +1,7 @@
-// The edit controller on real design pages: tools, actions and shortcuts,
-// clipboard, transforms, and the text, move and array dialogs.
+// The edit controller on real design pages (tools, actions and shortcuts,
+// clipboard, transforms) and the text, move and array dialogs and alignment
+// buttons it opens.
+#include "align_panel.h"
 #include "array_dialog.h"
 #include "combine.h"
 #include "design_pages.h"
@@ -16,20 +18,29 @@
 #include "selection_tool.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QToolButton>
 #include <QUndoStack>
 #include <QtTest>
 
 using namespace lumitra;
-using editing_test::describe;
-using editing_test::rectItem;
-using editing_test::samePaths;
-using editing_test::sameRect;
-using editing_test::scenePaths;
+using namespace editing_test;
+
+Q_DECLARE_METATYPE(lumitra::Alignment)
 
 namespace {
+
+template<typename T> T *child(QObject *parent, const char *name)
+{
+    T *w = parent->findChild<T *>(QString::fromLatin1(name));
+    if (!w)
+        qFatal("no child %s", name);
+    return w;
+}
 
 struct Window
 {
@@ -56,10 +67,10 @@ class TestEditController : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup() { set_message_handler({}); }
 
-    void actionsCarryTheStandardShortcuts_data();
     void actionsCarryTheStandardShortcuts();
     void toolsFollowTheCurrentPage();
     void actionsFollowTheSelection();
@@ -73,9 +84,25 @@ private slots:
     void arrayDialogAddsCopies();
     void selectionIsReportedInMillimetres();
 
+    void textDialogRefusesEmptyText_data();
+    void textDialogRefusesEmptyText();
+    void moveDialogShowsMachineCoordinates();
+    void moveDialogLockRatio_data();
+    void moveDialogLockRatio();
+    void arrayDialogValues();
+    void alignButtons_data();
+    void alignButtons();
+
 private:
     QStringList m_notices;
 };
+
+void TestEditController::initTestCase()
+{
+    // Signal spies record only argument types known at run time.
+    qRegisterMetaType<Alignment>();
+    qRegisterMetaType<Qt::Orientation>();
+}
 
 void TestEditController::init()
 {
@@ -87,30 +114,23 @@ void TestEditController::init()
     });
 }
 
-void TestEditController::actionsCarryTheStandardShortcuts_data()
-{
-    QTest::addColumn<int>("action");
-    QTest::addColumn<QKeySequence>("keys");
-    QTest::newRow("undo") << int(EditController::Undo) << QKeySequence(QKeySequence::Undo);
-    QTest::newRow("redo") << int(EditController::Redo) << QKeySequence(QKeySequence::Redo);
-    QTest::newRow("cut") << int(EditController::Cut) << QKeySequence(QKeySequence::Cut);
-    QTest::newRow("copy") << int(EditController::Copy) << QKeySequence(QKeySequence::Copy);
-    QTest::newRow("paste") << int(EditController::Paste) << QKeySequence(QKeySequence::Paste);
-    QTest::newRow("duplicate") << int(EditController::Duplicate) << QKeySequence("Ctrl+D");
-    QTest::newRow("delete") << int(EditController::Delete) << QKeySequence(QKeySequence::Delete);
-    QTest::newRow("select all") << int(EditController::SelectAll)
-                                << QKeySequence(QKeySequence::SelectAll);
-}
-
 void TestEditController::actionsCarryTheStandardShortcuts()
 {
-    QFETCH(int, action);
-    QFETCH(QKeySequence, keys);
     Window w;
-    QAction *a = w.edit.action(EditController::Action(action));
-    QVERIFY(a);
-    QVERIFY(a->shortcuts().contains(keys));
-    QVERIFY(w.window.actions().contains(a)); // live anywhere in the window
+    const std::pair<EditController::Action, QKeySequence> expected[] = {
+        {EditController::Undo, QKeySequence::Undo},
+        {EditController::Redo, QKeySequence::Redo},
+        {EditController::Cut, QKeySequence::Cut},
+        {EditController::Copy, QKeySequence::Copy},
+        {EditController::Paste, QKeySequence::Paste},
+        {EditController::Duplicate, QKeySequence("Ctrl+D")},
+        {EditController::Delete, QKeySequence::Delete},
+        {EditController::SelectAll, QKeySequence::SelectAll}};
+    for (const auto &[action, keys] : expected) {
+        QAction *a = w.edit.action(action);
+        QVERIFY(a && a->shortcuts().contains(keys));
+        QVERIFY(w.window.actions().contains(a)); // live anywhere in the window
+    }
     // No two actions share a shortcut.
     QSet<QString> seen;
     for (QAction *each : w.window.actions()) {
@@ -326,9 +346,9 @@ void TestEditController::moveDialogPlacesTheSelection()
     w.edit.action(EditController::Move)->trigger();
     MoveDialog *dialog = w.edit.moveDialog();
     QVERIFY(dialog);
-    dialog->findChild<QDoubleSpinBox *>("x_Box")->setValue(100);
-    dialog->findChild<QDoubleSpinBox *>("y_Box")->setValue(200);
-    dialog->findChild<QDoubleSpinBox *>("kuan_Box")->setValue(20); // ratio locked
+    child<QDoubleSpinBox>(dialog, "x_Box")->setValue(100);
+    child<QDoubleSpinBox>(dialog, "y_Box")->setValue(200);
+    child<QDoubleSpinBox>(dialog, "kuan_Box")->setValue(20); // ratio locked
     dialog->accept();
     QVERIFY(sameRect(outlineBounds(w.edit.selectedItems()), QRectF(100, -210, 20, 10)));
     QCOMPARE(w.stack()->count(), 2);
@@ -361,6 +381,132 @@ void TestEditController::selectionIsReportedInMillimetres()
     w.scene()->clearSelection();
     QCoreApplication::processEvents();
     QCOMPARE(text.last().first().toString(), QString());
+}
+
+void TestEditController::textDialogRefusesEmptyText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("blanks") << " \n  " << true;
+    QTest::newRow("a letter") << "A" << false;
+}
+
+void TestEditController::textDialogRefusesEmptyText()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, refused);
+    Jk_wen_zi2 dialog;
+    child<QPlainTextEdit>(&dialog, "wenzi_Edit")->setPlainText(text);
+    dialog.open();
+    dialog.accept();
+    QCOMPARE(dialog.isVisible(), refused);
+    QCOMPARE(dialog.result(), refused ? int(QDialog::Rejected) : int(QDialog::Accepted));
+    QCOMPARE(m_notices, refused ? QStringList{"请输入文字"} : QStringList{});
+}
+
+void TestEditController::moveDialogShowsMachineCoordinates()
+{
+    MoveDialog dialog;
+    dialog.setSelection(QRectF(10, -60, 40, 20), 30);
+    Placement p = dialog.placement();
+    QCOMPARE(p.machineRect, QRectF(10, 40, 40, 20));
+    QCOMPARE(p.rotation, 0.0);
+    QVERIFY(!p.resize);
+    child<QDoubleSpinBox>(&dialog, "x_Box")->setValue(-5);
+    child<QDoubleSpinBox>(&dialog, "jiaodu_Box")->setValue(75);
+    p = dialog.placement();
+    QCOMPARE(p.machineRect.topLeft(), QPointF(-5, 40));
+    QCOMPARE(p.rotation, 45.0); // relative to the 30 shown
+    QVERIFY(!p.resize);
+}
+
+void TestEditController::moveDialogLockRatio_data()
+{
+    QTest::addColumn<bool>("locked");
+    QTest::addColumn<QString>("edited");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("locked, height") << true << "gao_Box" << 5.0 << QSizeF(10, 5);
+    QTest::newRow("free, width") << false << "kuan_Box" << 80.0 << QSizeF(80, 20);
+}
+
+void TestEditController::moveDialogLockRatio()
+{
+    QFETCH(bool, locked);
+    QFETCH(QString, edited);
+    QFETCH(double, value);
+    QFETCH(QSizeF, size);
+    MoveDialog dialog;
+    dialog.setSelection(QRectF(0, -20, 40, 20), 0);
+    child<QCheckBox>(&dialog, "suoding_Box")->setChecked(locked);
+    child<QDoubleSpinBox>(&dialog, edited.toLatin1().constData())->setValue(value);
+    const Placement p = dialog.placement();
+    QCOMPARE(p.machineRect.size(), size);
+    QVERIFY(p.resize);
+}
+
+void TestEditController::arrayDialogValues()
+{
+    ArrayDialog dialog;
+    dialog.setCentre(QPointF(200, -150));
+    QVERIFY(!dialog.isCircular());
+    child<QSpinBox>(&dialog, "hang_Box")->setValue(3);
+    child<QSpinBox>(&dialog, "lie_Box")->setValue(4);
+    child<QDoubleSpinBox>(&dialog, "hengjianju_Box")->setValue(2.5);
+    child<QDoubleSpinBox>(&dialog, "zongjianju_Box")->setValue(-1);
+    const RectangularArray r = dialog.rectangular();
+    QCOMPARE(r.rows, 3);
+    QCOMPARE(r.columns, 4);
+    QCOMPARE(r.gapX, 2.5);
+    QCOMPARE(r.gapY, -1.0);
+    // The centre is shown in machine coordinates and handed back in scene ones.
+    QCOMPARE(child<QDoubleSpinBox>(&dialog, "zhongxinY_Box")->value(), 150.0);
+    auto *tabs = child<QTabWidget>(&dialog, "leixing_Tab");
+    tabs->setCurrentIndex(1);
+    QVERIFY(dialog.isCircular());
+    child<QSpinBox>(&dialog, "shuliang_Box")->setValue(8);
+    child<QDoubleSpinBox>(&dialog, "zhongxinX_Box")->setValue(50);
+    child<QCheckBox>(&dialog, "xuanzhuan_Box")->setChecked(false);
+    const CircularArray c = dialog.circular();
+    QCOMPARE(c.count, 8);
+    QCOMPARE(c.centre, QPointF(50, -150));
+    QCOMPARE(c.sweep, 360.0);
+    QVERIFY(!c.rotateCopies);
+}
+
+void TestEditController::alignButtons_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("alignment"); // -1 horizontal spacing, -2 vertical
+    QTest::newRow("left") << "zuo_Btn" << int(Alignment::Left);
+    QTest::newRow("horizontal centre") << "shuipingjuzhong_Btn" << int(Alignment::HorizontalCentre);
+    QTest::newRow("right") << "you_Btn" << int(Alignment::Right);
+    QTest::newRow("top") << "shang_Btn" << int(Alignment::Top);
+    QTest::newRow("vertical centre") << "chuizhijuzhong_Btn" << int(Alignment::VerticalCentre);
+    QTest::newRow("bottom") << "xia_Btn" << int(Alignment::Bottom);
+    QTest::newRow("work area") << "gongzuoqu_Btn" << int(Alignment::WorkAreaCentre);
+    QTest::newRow("spread across") << "hengxiangfenbu_Btn" << -1;
+    QTest::newRow("spread down") << "zongxiangfenbu_Btn" << -2;
+}
+
+void TestEditController::alignButtons()
+{
+    QFETCH(QString, button);
+    QFETCH(int, alignment);
+    AlignPanel panel;
+    QSignalSpy aligned(&panel, &AlignPanel::alignRequested);
+    QSignalSpy spread(&panel, &AlignPanel::distributeRequested);
+    child<QToolButton>(&panel, button.toLatin1().constData())->click();
+    if (alignment >= 0) {
+        QCOMPARE(aligned.count(), 1);
+        QCOMPARE(int(aligned.first().first().value<Alignment>()), alignment);
+        QCOMPARE(spread.count(), 0);
+    } else {
+        QCOMPARE(spread.count(), 1);
+        QCOMPARE(spread.first().first().value<Qt::Orientation>(),
+                 alignment == -1 ? Qt::Horizontal : Qt::Vertical);
+        QCOMPARE(aligned.count(), 0);
+    }
 }
 
 QTEST_MAIN(TestEditController)
