@@ -40,13 +40,17 @@ void LayerPanelController::rebuild()
         return; // frozen while the machine works: only the repaint above
     const LayerList &list = LayerList::instance();
     m_rows->setRows(list.layers());
-    // The panel follows its layer by key; it empties when the layer is gone.
+    // The panel follows its layer by key.
     if (m_panel->layer()) {
         const LayerKey key = m_panel->layerKey();
         TuCeng *now = list.find(key.number, key.bitmap);
         if (now != m_panel->layer())
             m_panel->setLayer(now);
     }
+    // An empty panel shows the first layer, so the parameters of a new design
+    // are at hand without looking for the row to double-click.
+    if (!m_panel->layer() && !list.isEmpty())
+        m_panel->setLayer(list.layers().first());
 }
 
 void LayerPanelController::showParameters(TuCeng *layer)

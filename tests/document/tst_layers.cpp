@@ -631,11 +631,11 @@ private slots:
         QCOMPARE(f.rows.rows().size(), 3);
     }
 
-    void panelEditsRefreshRowsAndLetGoOfVanishedLayer()
+    void panelEditsRefreshRowsAndFollowVanishedLayer()
     {
         Fixture f;
         Jk_tu_yuan *item = f.add(3);
-        f.add(5);
+        Jk_tu_yuan *other = f.add(5);
         f.controller.showParameters(LayerList::instance().find(3, false));
         programState().unsaved = false;
         auto *name = child<QLineEdit>(f.panel, "mingcheng_Edit");
@@ -646,7 +646,12 @@ private slots:
         child<QSpinBox>(f.panel, "gonglv_Box")->setValue(12);
         QCOMPARE(LayerList::instance().find(3, false)->gonglv, 12);
 
+        // The shown layer vanishes: the panel falls back to the first layer left,
+        // and empties only with the last one.
         f.scene()->deleteItemsUndoable({item});
+        QVERIFY(f.panel.layer());
+        QCOMPARE(f.panel.layer()->yanse, 5);
+        f.scene()->deleteItemsUndoable({other});
         QVERIFY(!f.panel.layer());
         QVERIFY(!f.panel.isEnabled());
     }
