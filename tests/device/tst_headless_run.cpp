@@ -1,5 +1,4 @@
 #include "headless_run.h"
-#include "job_file.h"
 #include "link_fixture.h"
 #include "program_state.h"
 
@@ -22,24 +21,19 @@ private slots:
     void lostPort();
     void silentController();
     void badInputs();
-
-private:
-    struct Outcome
-    {
-        int code = -1;
-        QString out;
-        QString err;
-    };
-    static Outcome run(const QString &port, const QString &file, bool home,
-                       const HeadlessRunOptions &options = {});
 };
 
-TestHeadlessRun::Outcome TestHeadlessRun::run(const QString &port, const QString &file, bool home,
-                                              const HeadlessRunOptions &options)
+struct Outcome
+{
+    int code = -1;
+    QString out, err;
+};
+
+static Outcome run(const QString &port, const QString &file, bool home,
+                   const HeadlessRunOptions &options = {})
 {
     Outcome o;
-    QTextStream out(&o.out);
-    QTextStream err(&o.err);
+    QTextStream out(&o.out), err(&o.err);
     o.code = runJobHeadless(port, file, home, out, err, options);
     return o;
 }
@@ -81,29 +75,24 @@ void TestHeadlessRun::streamsAndWaitsForIdle()
 
 void TestHeadlessRun::controllerFaults_data()
 {
-    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("reply"); // to line 40; empty: an alarm instead
     QTest::addColumn<QString>("reported");
-    QTest::newRow("alarm") << "alarm"
-                           << "ALARM:2";
-    QTest::newRow("error reply") << "error"
-                                 << "error:20";
-    QTest::newRow("capital Error") << "Error"
-                                   << "Error";
+    QTest::newRow("alarm") << QByteArray() << "ALARM:2";
+    QTest::newRow("error reply") << QByteArray("error:20") << "error:20";
+    QTest::newRow("capital Error") << QByteArray("Error: limit") << "Error";
 }
 
 void TestHeadlessRun::controllerFaults()
 {
-    QFETCH(QString, kind);
+    QFETCH(QByteArray, reply);
     QFETCH(QString, reported);
     QTemporaryDir dir;
     const QString file = writeJobFile(dir, 2000);
     GrblFake fake;
-    if (kind == "alarm")
+    if (reply.isEmpty())
         fake.alarmAtLine(40, 2);
-    else if (kind == "error")
-        fake.replyInsteadOfOk(40, "error:20");
     else
-        fake.replyInsteadOfOk(40, "Error: limit");
+        fake.replyInsteadOfOk(40, reply);
     QVERIFY(fake.start());
 
     const Outcome r = run(fake.portName(), file, false);

@@ -14,10 +14,7 @@ class TestPortWatch : public QObject
 private slots:
     void sync_data();
     void sync();
-    void probeFindsController();
-    void probeOfSilentPort();
-    void baudProbe();
-    void baudProbeWithoutAnswer();
+    void probes();
     void watcherRounds();
     void watcherReportsLostLinkPort();
 };
@@ -80,71 +77,43 @@ void TestPortWatch::sync()
     QCOMPARE(u.selectFirst, selectFirst);
 }
 
-void TestPortWatch::probeFindsController()
+void TestPortWatch::probes()
 {
     GrblFake fake;
     QVERIFY(fake.start());
     QVERIFY(probePort(fake.portName(), 500));
     QTRY_COMPARE(fake.lines(), QStringList{"AT"});
-    QVERIFY(!probePort("/dev/lumitra-no-such-port", 100));
-}
+    // A pty carries every rate, so the first one answers.
+    QCOMPARE(probeBaudRate(fake.portName(), 300), 1200);
+    QTRY_COMPARE(fake.lines(), (QStringList{"AT", "AT "}));
 
-void TestPortWatch::probeOfSilentPort()
-{
     GrblFake::Options o;
     o.resetOnFirstByte = true; // busy booting: says nothing within the wait
-    o.bootMs = 5000;
-    GrblFake fake(o);
-    QVERIFY(fake.start());
-    QVERIFY(!probePort(fake.portName(), 100));
-}
-
-void TestPortWatch::baudProbe()
-{
-    // A pty carries every rate, so the first one answers.
-    GrblFake fake;
-    QVERIFY(fake.start());
-    QCOMPARE(probeBaudRate(fake.portName(), 300), 1200);
-    QTRY_COMPARE(fake.lines(), QStringList{"AT "});
-    QCOMPARE(baudProbeRates().first(), QString("1200"));
-    QCOMPARE(baudProbeRates().last(), QString("256000"));
-    QCOMPARE(baudProbeRates().size(), 10);
-}
-
-void TestPortWatch::baudProbeWithoutAnswer()
-{
-    GrblFake::Options o;
-    o.resetOnFirstByte = true;
     o.bootMs = 60000;
-    GrblFake fake(o);
-    QVERIFY(fake.start());
-    QCOMPARE(probeBaudRate(fake.portName(), 20), 115200);
+    GrblFake silent(o);
+    QVERIFY(silent.start());
+    QVERIFY(!probePort(silent.portName(), 100));
+    QCOMPARE(probeBaudRate(silent.portName(), 20), 115200);
+    QVERIFY(!probePort("/dev/lumitra-no-such-port", 100));
     QCOMPARE(probeBaudRate("/dev/lumitra-no-such-port", 20), 115200);
 }
 
-namespace {
-
-// The ports "present" for a watcher under test.
-class PortSet
+// The ports "present" for a watcher under test; read on its thread.
+struct PortSet
 {
-public:
-    void set(const QStringList &ports)
+    QMutex mutex;
+    QStringList ports;
+    void set(const QStringList &p)
     {
-        QMutexLocker lock(&m_mutex);
-        m_ports = ports;
+        QMutexLocker lock(&mutex);
+        ports = p;
     }
-    QStringList get() const
+    QStringList get()
     {
-        QMutexLocker lock(&m_mutex);
-        return m_ports;
+        QMutexLocker lock(&mutex);
+        return ports;
     }
-
-private:
-    mutable QMutex m_mutex;
-    QStringList m_ports;
 };
-
-} // namespace
 
 void TestPortWatch::watcherRounds()
 {

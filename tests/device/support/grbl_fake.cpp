@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cmath>
 #include <deque>
 #include <fcntl.h>
 #include <functional>
@@ -16,15 +15,8 @@
 #include <unistd.h>
 
 namespace {
-
 using Clock = std::chrono::steady_clock;
 constexpr double kNever = 1e18;
-
-bool isRealTime(char c)
-{
-    return c == '?' || c == '!' || c == '~' || c == 0x18;
-}
-
 } // namespace
 
 struct GrblFake::Impl
@@ -36,9 +28,7 @@ struct GrblFake::Impl
     };
 
     Options opt;
-    int master = -1;
-    int slave = -1;
-    int wake = -1;
+    int master = -1, slave = -1, wake = -1;
     std::thread thread;
     std::atomic_bool stopping{false};
     Clock::time_point epoch = Clock::now();
@@ -46,28 +36,27 @@ struct GrblFake::Impl
     // Fake thread only.
     std::deque<WireByte> wire;
     double lastArrival = 0.0;
-    std::string rx;
-    double headReadyAt = -1.0;
-    std::string out;
+    std::string rx, out;
+    double headReadyAt = -1.0; // when the oldest complete line is processed
     bool firstByteSeen = false;
     double bootUntil = -1.0;
     double busyUntil = 0.0;
     bool held = false;
-    std::atomic_bool alarm{false};
-    std::atomic<double> busyUntilShared{0.0};
     double x = 0.0, y = 0.0;
     int feed = 0;
 
-    // Shared, under the mutex.
-    mutable std::mutex mutex;
+    // Shared.
+    std::atomic_bool alarm{false};
+    std::atomic<double> busyUntilShared{0.0};
+    std::atomic_bool overrun{false};
+    std::atomic_int peak{0};
+    std::atomic<qint64> received{0};
+    mutable std::mutex mutex; // guards the members below
     std::deque<std::function<void()>> commands;
     QStringList lines;
     int lineCount = 0;
     QByteArray realTime;
     int resets = 0;
-    std::atomic_bool overrun{false};
-    std::atomic_int peak{0};
-    std::atomic<qint64> received{0};
     QMap<int, QByteArray> replies;
     QMap<int, int> alarms;
 
@@ -86,39 +75,21 @@ struct GrblFake::Impl
 
     void say(const QByteArray &text) { out.append(text.constData(), size_t(text.size())); }
 
-    QString stateName(double t) const
+    void setBusyUntil(double t)
     {
-        if (alarm)
-            return QStringLiteral("Alarm");
-        if (held)
-            return QStringLiteral("Hold");
-        return t < busyUntil ? QStringLiteral("Run") : QStringLiteral("Idle");
+        busyUntil = t;
+        busyUntilShared = t;
     }
 
     void reportStatus(double t)
     {
+        const char *state = alarm ? "Alarm" : held ? "Hold" : t < busyUntil ? "Run" : "Idle";
         say(QStringLiteral("<%1|MPos:%2,%3,0.000|FS:%4,0>\r\n")
-                .arg(stateName(t))
+                .arg(QLatin1String(state))
                 .arg(x, 0, 'f', 3)
                 .arg(y, 0, 'f', 3)
                 .arg(t < busyUntil ? feed : 0)
                 .toLatin1());
-    }
-
-    void reset(double t)
-    {
-        rx.clear();
-        headReadyAt = -1.0;
-        held = false;
-        busyUntil = t;
-        busyUntilShared = t;
-        {
-            std::lock_guard<std::mutex> lock(mutex);
-            ++resets;
-        }
-        say("\r\n" + banner() + "\r\n");
-        if (alarm)
-            say("[MSG:'$H'|'$X' to unlock]\r\n");
     }
 
     void onRealTime(char c, double t)
@@ -126,19 +97,21 @@ struct GrblFake::Impl
         {
             std::lock_guard<std::mutex> lock(mutex);
             realTime.append(c);
+            if (c == 0x18)
+                ++resets;
         }
-        switch (c) {
-        case '?':
+        if (c == '?') {
             reportStatus(t);
-            break;
-        case '!':
-            held = true;
-            break;
-        case '~':
+        } else if (c == '!' || c == '~') {
+            held = c == '!';
+        } else { // soft reset: the buffer is dropped and the banner printed
+            rx.clear();
+            headReadyAt = -1.0;
             held = false;
-            break;
-        default:
-            reset(t);
+            setBusyUntil(t);
+            say("\r\n" + banner() + "\r\n");
+            if (alarm)
+                say("[MSG:'$H'|'$X' to unlock]\r\n");
         }
     }
 
@@ -151,17 +124,14 @@ struct GrblFake::Impl
         }
         if (bootUntil >= 0.0)
             return; // lost while the board boots
-        if (isRealTime(b.byte)) {
+        if (b.byte == '?' || b.byte == '!' || b.byte == '~' || b.byte == 0x18) {
             onRealTime(b.byte, b.arrival);
-            return;
-        }
-        if (int(rx.size()) >= opt.receiveBuffer - 1) {
+        } else if (int(rx.size()) >= opt.receiveBuffer - 1) {
             overrun = true;
-            return;
+        } else {
+            rx.push_back(b.byte);
+            peak = std::max(peak.load(), int(rx.size()));
         }
-        rx.push_back(b.byte);
-        if (int(rx.size()) > peak)
-            peak = int(rx.size());
     }
 
     void moveTo(const QString &line, double t)
@@ -169,8 +139,7 @@ struct GrblFake::Impl
         static const QRegularExpression word(QStringLiteral("([XYF])(-?\\d*\\.?\\d+)"));
         const bool relative = line.contains(QLatin1String("G91"));
         bool moved = false;
-        auto it = word.globalMatch(line);
-        while (it.hasNext()) {
+        for (auto it = word.globalMatch(line); it.hasNext();) {
             const auto m = it.next();
             const double v = m.captured(2).toDouble();
             const QChar axis = m.captured(1).at(0);
@@ -182,10 +151,8 @@ struct GrblFake::Impl
             pos = relative ? pos + v : v;
             moved = true;
         }
-        if (moved) {
-            busyUntil = std::max(busyUntil, t) + opt.motionMsPerLine / 1000.0;
-            busyUntilShared = busyUntil;
-        }
+        if (moved)
+            setBusyUntil(std::max(busyUntil, t) + opt.motionMsPerLine / 1000.0);
     }
 
     void execute(const QString &line, double t)
@@ -208,15 +175,21 @@ struct GrblFake::Impl
             alarm = false;
             x = y = 0.0;
         } else if (alarm && !cmd.startsWith(QLatin1Char('$'))) {
-            say("error:9\r\n");
-            return;
+            return say("error:9\r\n");
         } else if (cmd.startsWith(QLatin1String("AT"))) {
-            say("error:20\r\n");
-            return;
+            return say("error:20\r\n");
         } else {
             moveTo(cmd, t);
         }
         say("ok\r\n");
+    }
+
+    void raiseNow(int code)
+    {
+        alarm = true;
+        held = false;
+        setBusyUntil(0.0);
+        say("ALARM:" + QByteArray::number(code) + "\r\n");
     }
 
     void processLine(double t)
@@ -228,33 +201,22 @@ struct GrblFake::Impl
         while (raw.endsWith('\r'))
             raw.chop(1);
         const QString line = QString::fromLatin1(raw);
-        int number = 0;
         QByteArray reply;
         int alarmCode = 0;
         {
             std::lock_guard<std::mutex> lock(mutex);
-            number = ++lineCount;
+            const int number = ++lineCount;
             if (opt.recordLines)
                 lines.append(line);
             reply = replies.take(number);
             alarmCode = alarms.take(number);
         }
-        if (alarmCode) {
+        if (alarmCode)
             raiseNow(alarmCode);
-        } else if (!reply.isEmpty()) {
+        else if (!reply.isEmpty())
             say(reply + "\r\n");
-        } else {
+        else
             execute(line, t);
-        }
-    }
-
-    void raiseNow(int code)
-    {
-        alarm = true;
-        held = false;
-        busyUntil = 0.0;
-        busyUntilShared = 0.0;
-        say("ALARM:" + QByteArray::number(code) + "\r\n");
     }
 
     // Processes the complete lines whose processing time has come by `t`.
@@ -269,9 +231,9 @@ struct GrblFake::Impl
         }
     }
 
-    // Handles everything due by `t`, byte by byte in arrival order so that lines
-    // leave the receive buffer while later bytes come in, as on the controller;
-    // returns when the next event is due.
+    // Handles everything due by `t` byte by byte in arrival order, so that lines
+    // leave the receive buffer while later bytes come in; returns when the next
+    // event is due.
     double advance(double t)
     {
         while (!wire.empty() && wire.front().arrival <= t) {
@@ -286,9 +248,7 @@ struct GrblFake::Impl
             say(banner() + "\r\n");
         }
         processDueLines(t);
-        double next = kNever;
-        if (!wire.empty())
-            next = wire.front().arrival;
+        double next = wire.empty() ? kNever : wire.front().arrival;
         if (bootUntil >= 0.0)
             next = std::min(next, bootUntil);
         if (headReadyAt >= 0.0)
@@ -299,10 +259,8 @@ struct GrblFake::Impl
     void readWire(double t)
     {
         char buf[4096];
-        for (;;) {
-            const ssize_t n = ::read(master, buf, sizeof buf);
-            if (n <= 0)
-                return;
+        ssize_t n;
+        while ((n = ::read(master, buf, sizeof buf)) > 0) {
             for (ssize_t i = 0; i < n; ++i) {
                 double at = t;
                 if (opt.bytesPerSecond > 0.0)
@@ -315,12 +273,9 @@ struct GrblFake::Impl
 
     void flushOut()
     {
-        while (!out.empty() && master >= 0) {
-            const ssize_t n = ::write(master, out.data(), out.size());
-            if (n <= 0)
-                return;
+        ssize_t n;
+        while (!out.empty() && master >= 0 && (n = ::write(master, out.data(), out.size())) > 0)
             out.erase(0, size_t(n));
-        }
     }
 
     void runCommands()
@@ -344,14 +299,12 @@ struct GrblFake::Impl
             pollfd fds[2] = {{wake, POLLIN, 0},
                              {master, short(POLLIN | (out.empty() ? 0 : POLLOUT)), 0}};
             timespec ts{};
-            timespec *timeout = nullptr;
             if (next < kNever) {
                 const double wait = std::max(0.0, next - now());
                 ts.tv_sec = time_t(wait);
                 ts.tv_nsec = long((wait - double(ts.tv_sec)) * 1e9);
-                timeout = &ts;
             }
-            if (::ppoll(fds, 2, timeout, nullptr) < 0 && errno != EINTR)
+            if (::ppoll(fds, 2, next < kNever ? &ts : nullptr, nullptr) < 0 && errno != EINTR)
                 return;
             if (fds[0].revents & POLLIN)
                 runCommands();
@@ -363,14 +316,10 @@ struct GrblFake::Impl
 
 QMap<int, QString> GrblFake::defaultSettings()
 {
-    return {{0, QStringLiteral("10")},         {1, QStringLiteral("25")},
-            {10, QStringLiteral("1")},         {22, QStringLiteral("1")},
-            {30, QStringLiteral("1000")},      {31, QStringLiteral("0")},
-            {32, QStringLiteral("1")},         {100, QStringLiteral("80.000")},
-            {101, QStringLiteral("80.000")},   {110, QStringLiteral("6000.000")},
-            {111, QStringLiteral("6000.000")}, {120, QStringLiteral("500.000")},
-            {130, QStringLiteral("400.000")},  {131, QStringLiteral("400.000")},
-            {132, QStringLiteral("50.000")}};
+    return {{0, "10"},        {1, "25"},         {10, "1"},         {22, "1"},
+            {30, "1000"},     {31, "0"},         {32, "1"},         {100, "80.000"},
+            {101, "80.000"},  {110, "6000.000"}, {111, "6000.000"}, {120, "500.000"},
+            {130, "400.000"}, {131, "400.000"},  {132, "50.000"}};
 }
 
 QByteArray GrblFake::banner()
@@ -452,50 +401,44 @@ void GrblFake::closeFarEnd()
     });
 }
 
+template<typename T> static T locked(std::mutex &m, const T &value)
+{
+    std::lock_guard<std::mutex> lock(m);
+    return value;
+}
+
 QStringList GrblFake::lines() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->lines;
+    return locked(d->mutex, d->lines);
 }
-
 int GrblFake::lineCount() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->lineCount;
+    return locked(d->mutex, d->lineCount);
 }
-
 QByteArray GrblFake::realTimeBytes() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->realTime;
+    return locked(d->mutex, d->realTime);
 }
-
 int GrblFake::resetCount() const
 {
-    std::lock_guard<std::mutex> lock(d->mutex);
-    return d->resets;
+    return locked(d->mutex, d->resets);
 }
-
 bool GrblFake::overrun() const
 {
     return d->overrun.load();
 }
-
 int GrblFake::peakWaiting() const
 {
     return d->peak.load();
 }
-
 qint64 GrblFake::bytesReceived() const
 {
     return d->received.load();
 }
-
 bool GrblFake::moving() const
 {
     return d->now() < d->busyUntilShared.load();
 }
-
 bool GrblFake::inAlarm() const
 {
     return d->alarm.load();

@@ -10,17 +10,13 @@
 #include <thread>
 
 // A GRBL controller on the far end of a pseudo-terminal pair, for tests and
-// benches. The link under test opens portName() like any serial port; the fake
-// answers on its own thread:
-//   - every received line with "ok" (or what a rule says), "$i"/"$I" with the
-//     build info, "$$" with the settings dump, "$X" unlocks, "$H" homes;
-//   - the real-time bytes "?" (status report), "!", "~" and 0x18 (reset, then
-//     the start-up banner);
-//   - alarm and error lines on demand.
-// Its receive buffer holds 128 bytes of which, as in the firmware's ring
-// buffer, 127 are usable: a byte that arrives when 127 are waiting is an
-// overrun, recorded and dropped. Bytes can be paced as on a real wire
-// (bytesPerSecond) and each line can take processingDelayMs before its reply.
+// benches. The link opens portName() like any serial port; the fake answers on
+// its own thread: "ok" per line (or what a rule says), "$i"/"$I" build info,
+// "$$" settings, "$X" unlock, "$H" home, the real-time bytes "?", "!", "~" and
+// 0x18 (reset, then the banner), alarm and error lines on demand.
+// Of its 128-byte receive buffer 127 bytes are usable, as in the firmware's
+// ring buffer: a byte arriving when 127 wait is an overrun, recorded and
+// dropped. Bytes can be paced as on a wire and each line can take a delay.
 class GrblFake
 {
 public:
@@ -30,9 +26,8 @@ public:
         double bytesPerSecond = 0.0; // 0: as fast as the pty carries them
         int processingDelayMs = 0;   // per line, before its reply
         int motionMsPerLine = 0;     // the state reads Run this long per motion line
-        // The board restarts when the first byte arrives (as boards that reset
-        // when the port opens): bytes arriving within bootMs are lost, then the
-        // banner is printed.
+        // The board restarts on the first byte (as boards that reset when the
+        // port opens): bytes within bootMs are lost, then the banner is printed.
         bool resetOnFirstByte = false;
         int bootMs = 0;
         bool answerIdentify = true; // false: "$i" gets no answer at all
