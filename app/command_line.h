@@ -11,8 +11,8 @@ struct CommandLine
 {
     enum Mode { Window, Export, Run, Exit };
     Mode mode = Window;
-    int exitCode = 0;   // for Exit: --help, --version or a usage error
-    QString message;    // printed for Exit (stdout when exitCode is 0, else stderr)
+    int exitCode = 0; // for Exit: --help, --version or a usage error
+    QString message;  // printed for Exit (stdout when exitCode is 0, else stderr)
 
     // --export INPUT -o OUTPUT [--power P --speed S --passes N --mode M
     //  --spacing MM --angle DEG --overscan MM]

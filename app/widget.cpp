@@ -1,20 +1,20 @@
 #include "widget.h"
 #include "ui_widget.h"
 
-#include "close_guard.h"
 #include "align_panel.h"
+#include "close_guard.h"
 #include "design_pages.h"
 #include "edit_controller.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
-#include "job_preview_dialog.h"
 #include "import_actions.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
+#include "job_preview_dialog.h"
 #include "language_controller.h"
+#include "layer_list.h"
 #include "layer_palette_bar.h"
 #include "layer_panel_controller.h"
-#include "layer_list.h"
 #include "layer_rows_panel.h"
 #include "machine_controller.h"
 #include "machine_panel.h"
@@ -27,8 +27,8 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QMenu>
-#include <QToolBar>
 #include <QTemporaryDir>
+#include <QToolBar>
 #include <QUndoStack>
 
 using namespace lumitra;
@@ -160,11 +160,10 @@ void Widget::setupMachine()
     connect(ui->ip_Edit, &QLineEdit::textChanged, m_machine, &MachineController::setWifiAddress);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });
-    connect(m_machine, &MachineController::busyChanged, m_layers,
-            [this](bool busy) {
-                if (!busy)
-                    m_layers->rebuild(); // the list stayed frozen while the job ran
-            });
+    connect(m_machine, &MachineController::busyChanged, m_layers, [this](bool busy) {
+        if (!busy)
+            m_layers->rebuild(); // the list stayed frozen while the job ran
+    });
     m_machine->startPortWatcher();
 }
 

@@ -80,8 +80,8 @@ QString normaliseStatus(const QString &report)
     const QString f = span(report, fStart, fEnd);
     const QString s = span(report, fEnd + 1, report.indexOf(QLatin1Char('|'), fEnd + 1));
 
-    QString out = state + QLatin1String(" X:") + x + QLatin1String(" Y:") + y +
-                  QLatin1String(" F:") + f + QLatin1String(" S:") + s;
+    QString out = state + QLatin1String(" X:") + x + QLatin1String(" Y:") + y + QLatin1String(" F:")
+                  + f + QLatin1String(" S:") + s;
     out.remove(QLatin1Char('>'));
     return out;
 }

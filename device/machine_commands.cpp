@@ -65,8 +65,8 @@ QString jogCommand(Link link, const QString &dx, const QString &dy, int feed)
 {
     const QString f = QString::number(feed);
     if (link == Link::Wifi)
-        return QStringLiteral("$J=G91%20G21%20F") + f + QStringLiteral("%20X") + dx +
-               QLatin1Char('Y') + dy;
+        return QStringLiteral("$J=G91%20G21%20F") + f + QStringLiteral("%20X") + dx
+               + QLatin1Char('Y') + dy;
     if (dy == QLatin1String("0"))
         return QStringLiteral("$J=G91X") + dx + QLatin1Char('F') + f;
     if (dx == QLatin1String("0"))
@@ -126,8 +126,8 @@ QRectF sceneToMachine(const QRectF &sceneRect)
 
 QString wifiCommandUrl(const QString &address, const QString &command)
 {
-    return QStringLiteral("http://") + address + QStringLiteral("/command?commandText=") + command +
-           QStringLiteral("&PAGEID=0");
+    return QStringLiteral("http://") + address + QStringLiteral("/command?commandText=") + command
+           + QStringLiteral("&PAGEID=0");
 }
 
 } // namespace lumitra::machine

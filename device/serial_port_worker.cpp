@@ -98,8 +98,8 @@ void SerialPortWorker::jie_shou()
 
 void SerialPortWorker::onError(int error)
 {
-    if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError &&
-        error != QSerialPort::WriteError)
+    if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError
+        && error != QSerialPort::WriteError)
         return;
     if (!m_open)
         return;

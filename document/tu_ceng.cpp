@@ -57,7 +57,14 @@ QColor layerColor(int number)
 bool layerUsesDarkText(int number)
 {
     switch (number) {
-    case 3: case 6: case 21: case 22: case 23: case 24: case 28: case 29:
+    case 3:
+    case 6:
+    case 21:
+    case 22:
+    case 23:
+    case 24:
+    case 28:
+    case 29:
         return true;
     default:
         return false;
@@ -93,15 +100,14 @@ QStringList modeLabelsForRow(bool bitmap)
 void writeTuCeng(QDataStream &out, const TuCeng &l)
 {
     out << l.sudu << l.moshi << l.tupian << l.gonglv << l.shuchu << l.shanchu << l.yanse
-        << l.xianshi << l.mingcheng << l.danxiang << l.saomiao << l.fangxiang << l.jianju
-        << l.cishu << QStringLiteral("123");
+        << l.xianshi << l.mingcheng << l.danxiang << l.saomiao << l.fangxiang << l.jianju << l.cishu
+        << QStringLiteral("123");
 }
 
 bool readTuCeng(QDataStream &in, TuCeng &l)
 {
     QString end;
-    in >> l.sudu >> l.moshi >> l.tupian >> l.gonglv >> l.shuchu >> l.shanchu >> l.yanse
-        >> l.xianshi >> l.mingcheng >> l.danxiang >> l.saomiao >> l.fangxiang >> l.jianju
-        >> l.cishu >> end;
+    in >> l.sudu >> l.moshi >> l.tupian >> l.gonglv >> l.shuchu >> l.shanchu >> l.yanse >> l.xianshi
+        >> l.mingcheng >> l.danxiang >> l.saomiao >> l.fangxiang >> l.jianju >> l.cishu >> end;
     return in.status() == QDataStream::Ok && end == QLatin1String("123");
 }

@@ -9,8 +9,7 @@ namespace lumitra {
 namespace {
 
 // Calls `levelOf(r, g, b, a)` for every pixel and stores the result.
-template<typename LevelOf>
-LevelMap mapPixels(const QImage &image, LevelOf levelOf)
+template<typename LevelOf> LevelMap mapPixels(const QImage &image, LevelOf levelOf)
 {
     LevelMap map;
     if (image.isNull())
@@ -40,8 +39,8 @@ LevelMap mapPixels(const QImage &image, LevelOf levelOf)
         break;
     }
     // 32-bit formats are read directly; the rest through one conversion.
-    const bool direct
-        = image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32;
+    const bool direct =
+        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32;
     const QImage argb = direct ? image : image.convertToFormat(QImage::Format_ARGB32);
     const bool opaque = argb.format() == QImage::Format_RGB32;
     for (int y = 0; y < map.height; ++y) {

@@ -42,8 +42,7 @@ int chordCount(const QPointF &p0, const QPointF &c1, const QPointF &c2, const QP
 }
 
 // Cumulative chord lengths at u = i / n, i = 0..n.
-template<typename Table>
-double buildTable(const Cubic &c, int n, Table &cumulative)
+template<typename Table> double buildTable(const Cubic &c, int n, Table &cumulative)
 {
     cumulative.resize(n + 1);
     cumulative[0] = 0.0;

@@ -8,11 +8,11 @@ namespace lumitra {
 
 namespace {
 
-const QStringList kVectorModes
-    = {QStringLiteral("line"), QStringLiteral("fill"), QStringLiteral("crossfill")};
-const QStringList kBitmapModes
-    = {QStringLiteral("threshold"), QStringLiteral("dither"), QStringLiteral("outline"),
-       QStringLiteral("grey"), QStringLiteral("negative")};
+const QStringList kVectorModes = {QStringLiteral("line"), QStringLiteral("fill"),
+                                  QStringLiteral("crossfill")};
+const QStringList kBitmapModes = {QStringLiteral("threshold"), QStringLiteral("dither"),
+                                  QStringLiteral("outline"), QStringLiteral("grey"),
+                                  QStringLiteral("negative")};
 
 // Reads a whole (integral T) or decimal number into `field`, within [low, high].
 template<typename T>
@@ -24,12 +24,12 @@ bool readNumber(const QString &name, const QString &text, T low, T high, std::op
     const QString trimmed = text.trimmed();
     const double value = whole ? double(trimmed.toLongLong(&ok)) : trimmed.toDouble(&ok);
     if (!ok || !(value >= low && value <= high)) {
-        *error
-            = QStringLiteral("--%1 must be %2 from %3 to %4, not \"%5\"")
-                  .arg(name, whole ? QStringLiteral("a whole number") : QStringLiteral("a number"))
-                  .arg(low)
-                  .arg(high)
-                  .arg(text);
+        *error =
+            QStringLiteral("--%1 must be %2 from %3 to %4, not \"%5\"")
+                .arg(name, whole ? QStringLiteral("a whole number") : QStringLiteral("a number"))
+                .arg(low)
+                .arg(high)
+                .arg(text);
         return false;
     }
     field = T(value);

@@ -22,8 +22,7 @@ struct HatchFrame
     double s;
 
     explicit HatchFrame(double angleDegrees)
-        : c(std::cos(angleDegrees * M_PI / 180.0))
-        , s(std::sin(angleDegrees * M_PI / 180.0))
+        : c(std::cos(angleDegrees * M_PI / 180.0)), s(std::sin(angleDegrees * M_PI / 180.0))
     {
         // Exact axes for the usual right angles.
         if (std::fmod(angleDegrees, 90.0) == 0.0) {

@@ -13,10 +13,10 @@ namespace {
 // text is then cut to kMaxFixedChars, far beyond any machine's travel anyway.
 constexpr double kFastLimit = 1e15;
 
-constexpr char kDigitPairs[]
-    = "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
-      "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
-      "8081828384858687888990919293949596979899";
+constexpr char kDigitPairs[] =
+    "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+    "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+    "8081828384858687888990919293949596979899";
 
 char *writeWhole(char *out, uint64_t n)
 {
@@ -40,8 +40,7 @@ char *writeWhole(char *out, uint64_t n)
 
 // |value| * Scale rounded half away from zero, computed exactly from the
 // mantissa and exponent bits of the double (magnitude below kFastLimit).
-template<uint64_t Scale>
-uint64_t scaledMagnitude(double magnitude)
+template<uint64_t Scale> uint64_t scaledMagnitude(double magnitude)
 {
     uint64_t bits;
     std::memcpy(&bits, &magnitude, sizeof bits);
@@ -59,8 +58,7 @@ uint64_t scaledMagnitude(double magnitude)
     return rest >= (uint64_t(1) << (shift - 1)) ? whole + 1 : whole;
 }
 
-template<int Decimals, uint64_t Scale>
-char *writeFast(char *out, double value)
+template<int Decimals, uint64_t Scale> char *writeFast(char *out, double value)
 {
     const uint64_t scaled = scaledMagnitude<Scale>(std::fabs(value));
     if (value < 0 && scaled != 0)

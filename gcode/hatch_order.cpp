@@ -19,8 +19,7 @@ class SpanOrderer
 {
 public:
     SpanOrderer(const QVector<HatchLine> &lines, bool oneDirection)
-        : m_lines(lines)
-        , m_oneDirection(oneDirection)
+        : m_lines(lines), m_oneDirection(oneDirection)
     {
         m_remaining.resize(lines.size());
         m_firstFlag.resize(lines.size());
@@ -139,11 +138,11 @@ private:
             const int above = line + delta;
             if (below < 0 && above >= count)
                 break;
-            const double nearestOffset
-                = qMin(below >= 0 ? std::fabs(m_lines[below].v - v)
-                                  : std::numeric_limits<double>::infinity(),
-                       above < count ? std::fabs(m_lines[above].v - v)
-                                     : std::numeric_limits<double>::infinity());
+            const double nearestOffset =
+                qMin(below >= 0 ? std::fabs(m_lines[below].v - v)
+                                : std::numeric_limits<double>::infinity(),
+                     above < count ? std::fabs(m_lines[above].v - v)
+                                   : std::numeric_limits<double>::infinity());
             if (nearestOffset > best.distance)
                 break;
             if (below >= 0)

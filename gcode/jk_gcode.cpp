@@ -51,10 +51,7 @@ HatchSettings hatchSettingsOf(const TuCeng &layer)
 
 } // namespace
 
-Jk_gcode::Jk_gcode(QObject *parent)
-    : QObject(parent)
-{
-}
+Jk_gcode::Jk_gcode(QObject *parent) : QObject(parent) {}
 
 QString Jk_gcode::defaultJobPath()
 {

@@ -12,8 +12,7 @@ constexpr int kBlockSize = 1 << 20;
 }
 
 JobOutput::JobOutput(QIODevice &device, const RotarySettings &rotary)
-    : m_device(device)
-    , m_rotary(rotary)
+    : m_device(device), m_rotary(rotary)
 {
     m_pending.reserve(kBlockSize + (kBlockSize >> 2));
 }

@@ -13,7 +13,7 @@ class QIODevice;
 // time, never memory.
 struct JobPreview
 {
-    QImage image;                    // machine Y up (row 0 is the far edge)
+    QImage image; // machine Y up (row 0 is the far edge)
     JobSimulator::Summary summary;
     bool ok = false;
 };

@@ -50,8 +50,8 @@ void flattenCubic(const QPointF &p0, const QPointF &c1, const QPointF &c2, const
     while (!stack.isEmpty()) {
         const CubicPiece c = stack.last();
         stack.removeLast();
-        const bool flat
-            = offChord(c.c1, c.p0, c.p3) <= tolerance && offChord(c.c2, c.p0, c.p3) <= tolerance;
+        const bool flat =
+            offChord(c.c1, c.p0, c.p3) <= tolerance && offChord(c.c2, c.p0, c.p3) <= tolerance;
         if (flat || c.depth >= kMaxSplitDepth) {
             out.append(c.p3);
             continue;

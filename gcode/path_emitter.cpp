@@ -49,9 +49,7 @@ Q_ALWAYS_INLINE char *PathEmitter::writeWord(char *out, char letter, const Numbe
 
 PathEmitter::PathEmitter(JobOutput &output, const RotarySettings &rotary,
                          const std::atomic_bool *cancel)
-    : m_output(output)
-    , m_cancel(cancel)
-    , m_pathBump(rotaryPathBump(rotary))
+    : m_output(output), m_cancel(cancel), m_pathBump(rotaryPathBump(rotary))
 {
     m_buffer.resize(2 * kFlushThreshold);
     m_xCache.resize(size_t(1) << kXCacheBits);

@@ -43,9 +43,7 @@ struct AxisStepper
     int index;
 
     AxisStepper(double a, double b, double start, int size)
-        : origin(a)
-        , inverse(b != 0 ? 1.0 / b : 0.0)
-        , step(b > 0 ? 1 : (b < 0 ? -1 : 0))
+        : origin(a), inverse(b != 0 ? 1.0 / b : 0.0), step(b > 0 ? 1 : (b < 0 ? -1 : 0))
     {
         index = std::clamp(int(std::floor(a + b * start)), 0, size - 1);
     }
@@ -136,9 +134,8 @@ class LineWriter
 {
 public:
     LineWriter(const RasterSettings &settings, ToolpathSink &sink)
-        : m_overscan(settings.overscan > 0 ? settings.overscan : 0.0)
-        , m_grey(settings.greyPower)
-        , m_sink(sink)
+        : m_overscan(settings.overscan > 0 ? settings.overscan : 0.0), m_grey(settings.greyPower),
+          m_sink(sink)
     {
     }
 

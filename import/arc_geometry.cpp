@@ -20,12 +20,13 @@ QPointF ellipsePoint(const QPointF &c, double rx, double ry, double phi, double 
     return QPointF(c.x() + cp * x - sp * y, c.y() + sp * x + cp * y);
 }
 
-void appendEllipticArc(QPainterPath &path, const QPointF &centre, double rx, double ry,
-                       double phi, double start, double sweep)
+void appendEllipticArc(QPainterPath &path, const QPointF &centre, double rx, double ry, double phi,
+                       double start, double sweep)
 {
     if (sweep == 0.0 || !std::isfinite(sweep))
         return;
-    const int segments = std::max(1, int(std::ceil(std::abs(sweep) / kMaxArcSegmentRadians - 1e-9)));
+    const int segments =
+        std::max(1, int(std::ceil(std::abs(sweep) / kMaxArcSegmentRadians - 1e-9)));
     const double delta = sweep / segments;
     // Control-point distance for one segment of the unit circle.
     const double k = 4.0 / 3.0 * std::tan(delta / 4.0);

@@ -17,8 +17,8 @@ QPointF ellipsePoint(const QPointF &c, double rx, double ry, double phi, double 
 // Appends the arc from parameter angle start over sweep (radians; positive turns from the
 // ellipse's x axis towards its y axis) as cubic segments. The path's current point is
 // expected at the arc's start; nothing is drawn for a zero sweep.
-void appendEllipticArc(QPainterPath &path, const QPointF &centre, double rx, double ry,
-                       double phi, double start, double sweep);
+void appendEllipticArc(QPainterPath &path, const QPointF &centre, double rx, double ry, double phi,
+                       double start, double sweep);
 
 // SVG's endpoint form of an elliptical arc: from the current point `from` to `to` with
 // radii rx, ry, x-axis rotation phiDegrees and the large-arc and sweep flags. Radii too

@@ -20,9 +20,11 @@ constexpr int kMaxExpansions = 200000; // block copies placed in one drawing
 
 // Finite and within a range where sums and products of coordinates stay finite.
 constexpr double kMaxMagnitude = 1e12;
-bool finite(double a) { return std::isfinite(a) && std::abs(a) <= kMaxMagnitude; }
-template<typename... T>
-bool finite(double a, T... rest)
+bool finite(double a)
+{
+    return std::isfinite(a) && std::abs(a) <= kMaxMagnitude;
+}
+template<typename... T> bool finite(double a, T... rest)
 {
     return finite(a) && finite(rest...);
 }
@@ -32,22 +34,38 @@ bool finite(double a, T... rest)
 double unitsToMm(int code)
 {
     switch (code) {
-    case 1: return 25.4;           // inches
-    case 2: return 304.8;          // feet
-    case 3: return 1609344.0;      // miles
-    case 5: return 10.0;           // centimetres
-    case 6: return 1000.0;         // metres
-    case 7: return 1e6;            // kilometres
-    case 8: return 25.4e-6;        // microinches
-    case 9: return 0.0254;         // mils
-    case 10: return 914.4;         // yards
-    case 11: return 1e-7;          // angstroms
-    case 12: return 1e-6;          // nanometres
-    case 13: return 1e-3;          // micrometres
-    case 14: return 100.0;         // decimetres
-    case 15: return 10000.0;       // decametres
-    case 16: return 100000.0;      // hectometres
-    default: return 1.0;
+    case 1:
+        return 25.4; // inches
+    case 2:
+        return 304.8; // feet
+    case 3:
+        return 1609344.0; // miles
+    case 5:
+        return 10.0; // centimetres
+    case 6:
+        return 1000.0; // metres
+    case 7:
+        return 1e6; // kilometres
+    case 8:
+        return 25.4e-6; // microinches
+    case 9:
+        return 0.0254; // mils
+    case 10:
+        return 914.4; // yards
+    case 11:
+        return 1e-7; // angstroms
+    case 12:
+        return 1e-6; // nanometres
+    case 13:
+        return 1e-3; // micrometres
+    case 14:
+        return 100.0; // decimetres
+    case 15:
+        return 10000.0; // decametres
+    case 16:
+        return 100000.0; // hectometres
+    default:
+        return 1.0;
     }
 }
 
@@ -96,7 +114,9 @@ QPainterPath throughFitPoints(const QVector<QPointF> &p, bool closed)
 class DxfExpander
 {
 public:
-    DxfExpander(const DxfCollector &c, double toleranceUnits) : m_c(c), m_tolerance(toleranceUnits) {}
+    DxfExpander(const DxfCollector &c, double toleranceUnits) : m_c(c), m_tolerance(toleranceUnits)
+    {
+    }
 
     bool expand(const DxfBlock &block, const QTransform &t, int depth, QPainterPath &out)
     {
@@ -107,8 +127,8 @@ public:
         for (const DxfSpline &s : block.splines) {
             QPainterPath local;
             if (s.curve.controlPoints.size() >= 2) {
-                const QPolygonF poly = flattenNurbs(s.curve, m_tolerance / stretch,
-                                                    kMaxElements - out.elementCount());
+                const QPolygonF poly =
+                    flattenNurbs(s.curve, m_tolerance / stretch, kMaxElements - out.elementCount());
                 local.addPolygon(poly);
             } else {
                 local = throughFitPoints(s.fitPoints, s.closed);
@@ -131,11 +151,12 @@ public:
             }
             for (int col = 0; col < ins.columns; ++col)
                 for (int row = 0; row < ins.rows; ++row) {
-                    QTransform place = QTransform::fromTranslate(-it->base.x(), -it->base.y())
+                    QTransform place =
+                        QTransform::fromTranslate(-it->base.x(), -it->base.y())
                         * QTransform::fromScale(ins.scaleX, ins.scaleY)
                         * QTransform::fromTranslate(col * ins.columnSpacing, row * ins.rowSpacing);
                     place = place * QTransform().rotate(ins.angleDegrees)
-                        * QTransform::fromTranslate(ins.at.x(), ins.at.y());
+                            * QTransform::fromTranslate(ins.at.x(), ins.at.y());
                     if (ins.mirrored)
                         place = place * kMirrorX;
                     if (++m_expansions > kMaxExpansions || !expand(*it, place * t, depth + 1, out))
@@ -359,7 +380,8 @@ void DxfCollector::addBlock(const DL_BlockData &d)
     const QString name = QString::fromStdString(d.name).toUpper();
     m_inBlock = true;
     // The layout blocks hold what the ENTITIES section already has (or paper space).
-    if (name.startsWith(QLatin1String("*MODEL_SPACE")) || name.startsWith(QLatin1String("*PAPER_SPACE"))) {
+    if (name.startsWith(QLatin1String("*MODEL_SPACE"))
+        || name.startsWith(QLatin1String("*PAPER_SPACE"))) {
         m_target = nullptr;
         return;
     }

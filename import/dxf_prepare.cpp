@@ -11,7 +11,6 @@ constexpr qint64 kMaxFileBytes = qint64(256) << 20;
 constexpr long long kMaxCount = 10000000;
 constexpr int kMaxLineLength = 1000; // the parser reads lines of up to 1023 characters
 
-
 // Group codes that announce how many values follow, per entity type.
 bool isCountCode(const QByteArray &entity, int code)
 {
@@ -60,7 +59,9 @@ QByteArray nextLine(const QByteArray &data, int *pos)
     if (end < 0)
         end = data.size();
     *pos = end + 1;
-    return data.mid(start, std::min(end - start, kMaxLineLength * 4)).trimmed().left(kMaxLineLength);
+    return data.mid(start, std::min(end - start, kMaxLineLength * 4))
+        .trimmed()
+        .left(kMaxLineLength);
 }
 
 } // namespace
@@ -69,7 +70,8 @@ bool readDxfForParser(const QString &path, std::string *text, QString *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = QCoreApplication::translate("DxfImport", "无法打开文件") + QStringLiteral(": ") + path;
+        *error =
+            QCoreApplication::translate("DxfImport", "无法打开文件") + QStringLiteral(": ") + path;
         return false;
     }
     if (file.size() > kMaxFileBytes) {

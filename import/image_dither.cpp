@@ -14,7 +14,10 @@ namespace lumitra {
 
 namespace {
 
-inline int clampLevel(int v) { return v < 0 ? 0 : (v > 255 ? 255 : v); }
+inline int clampLevel(int v)
+{
+    return v < 0 ? 0 : (v > 255 ? 255 : v);
+}
 
 void loadGreyRow(const QImage &img, int y, std::vector<int> &row)
 {
@@ -32,7 +35,8 @@ bool isOpaque32(const QImage &img)
         return false;
     // The alpha byte is the fourth of each pixel in both byte orders on little-endian
     // machines; read it through the 32-bit value to stay independent of that.
-    const bool rgbaOrder = f == QImage::Format_RGBA8888 || f == QImage::Format_RGBA8888_Premultiplied;
+    const bool rgbaOrder =
+        f == QImage::Format_RGBA8888 || f == QImage::Format_RGBA8888_Premultiplied;
     for (int y = 0; y < img.height(); ++y) {
         const uchar *p = img.constScanLine(y);
         for (int x = 0; x < img.width(); ++x, p += 4) {

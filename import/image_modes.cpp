@@ -9,14 +9,14 @@ constexpr quint32 kOpaqueWhite = 0xffffffffu;
 bool isRgbaByteOrder(QImage::Format f)
 {
     return f == QImage::Format_RGBA8888 || f == QImage::Format_RGBA8888_Premultiplied
-        || f == QImage::Format_RGBX8888;
+           || f == QImage::Format_RGBX8888;
 }
 
 // The formats whose pixels the scan-line loops below read directly.
 bool isDirect32(QImage::Format f)
 {
     return f == QImage::Format_RGB32 || f == QImage::Format_ARGB32
-        || f == QImage::Format_ARGB32_Premultiplied || isRgbaByteOrder(f);
+           || f == QImage::Format_ARGB32_Premultiplied || isRgbaByteOrder(f);
 }
 
 // The pixel as QImage::pixel() gives it: 0xAARRGGBB, premultiplied formats as stored.

@@ -12,10 +12,19 @@
 namespace lumitra {
 
 // Grey level of a colour: (11 R + 16 G + 5 B) / 32 in integers, truncating.
-inline int greyLevel(int r, int g, int b) { return (11 * r + 16 * g + 5 * b) >> 5; }
+inline int greyLevel(int r, int g, int b)
+{
+    return (11 * r + 16 * g + 5 * b) >> 5;
+}
 // The unshifted weighted sum; a colour is black when this is below 4096 (grey < 128).
-inline int greySum(int r, int g, int b) { return 11 * r + 16 * g + 5 * b; }
-inline bool isBlackSum(int r, int g, int b) { return greySum(r, g, b) < 4096; }
+inline int greySum(int r, int g, int b)
+{
+    return 11 * r + 16 * g + 5 * b;
+}
+inline bool isBlackSum(int r, int g, int b)
+{
+    return greySum(r, g, b) < 4096;
+}
 
 // Mode 0: RGBA8888 result; alpha 0 becomes transparent (0,0,0,0), dark pixels opaque black,
 // the rest opaque white.

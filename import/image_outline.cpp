@@ -14,8 +14,8 @@ QImage outlineImage(const QImage &image)
     // pixel layouts are brought to 32 bits first.
     QImage copy = image.depth() == 32 ? image : image.convertToFormat(QImage::Format_ARGB32);
     try {
-        const cv::Mat bgra(copy.height(), copy.width(), CV_8UC4, const_cast<uchar *>(copy.constBits()),
-                           size_t(copy.bytesPerLine()));
+        const cv::Mat bgra(copy.height(), copy.width(), CV_8UC4,
+                           const_cast<uchar *>(copy.constBits()), size_t(copy.bytesPerLine()));
         cv::Mat grey, edges;
         cv::cvtColor(bgra, grey, cv::COLOR_BGR2GRAY);
         cv::Canny(grey, edges, 100.0, 200.0, 3, false);

@@ -7,14 +7,17 @@
 #include <QDebug>
 #include <QFileInfo>
 #include <QTransform>
-#include <dxflib/dl_dxf.h>
 #include <cmath>
+#include <dxflib/dl_dxf.h>
 #include <new>
 #include <sstream>
 
 namespace {
 constexpr double kMaxCoordinateMm = 1e6; // one kilometre either way
-QString tr(const char *text) { return QCoreApplication::translate("DxfImport", text); }
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DxfImport", text);
+}
 } // namespace
 
 Jk_dxf::Jk_dxf(QObject *parent) : QObject(parent) {}
@@ -54,7 +57,8 @@ QPainterPath Jk_dxf::dxf_jie_xi(QString path)
     if (!collector.buildModelSpace(kSplineToleranceMm, &units, &m_error))
         return QPainterPath();
     m_mmPerUnit = collector.millimetresPerUnit();
-    QPainterPath mm = m_mmPerUnit == 1.0 ? units : QTransform::fromScale(m_mmPerUnit, m_mmPerUnit).map(units);
+    QPainterPath mm =
+        m_mmPerUnit == 1.0 ? units : QTransform::fromScale(m_mmPerUnit, m_mmPerUnit).map(units);
     const QRectF box = mm.controlPointRect();
     const double extremes[] = {box.left(), box.right(), box.top(), box.bottom()};
     for (double v : extremes)

@@ -34,7 +34,8 @@ struct Flattener
         const QPointF pa = curve.pointAt((u0 + um) / 2);
         const QPointF pb = curve.pointAt((um + u1) / 2);
         const bool flat = distanceToSegment(pm, p0, p1) <= tolerance
-            && distanceToSegment(pa, p0, p1) <= tolerance && distanceToSegment(pb, p0, p1) <= tolerance;
+                          && distanceToSegment(pa, p0, p1) <= tolerance
+                          && distanceToSegment(pb, p0, p1) <= tolerance;
         if (depth >= 24 || out.size() >= maxPoints || (flat && depth >= 1)) {
             out.append(p1);
             return;
@@ -111,7 +112,8 @@ QPointF NurbsCurve::pointAt(double u) const
             w[s] = (1 - a) * w[s - 1] + a * w[s];
         }
     const double wp = w[size_t(p)];
-    return wp != 0 ? QPointF(x[size_t(p)] / wp, y[size_t(p)] / wp) : QPointF(x[size_t(p)], y[size_t(p)]);
+    return wp != 0 ? QPointF(x[size_t(p)] / wp, y[size_t(p)] / wp)
+                   : QPointF(x[size_t(p)], y[size_t(p)]);
 }
 
 QPolygonF flattenNurbs(const NurbsCurve &curve, double tolerance, int maxPoints)

@@ -12,7 +12,7 @@ struct NurbsCurve
     int degree = 3;
     QVector<QPointF> controlPoints;
     QVector<double> weights; // one per control point, or empty for all 1
-    QVector<double> knots;   // controlPoints.size() + degree + 1 values, or empty for clamped uniform
+    QVector<double> knots; // controlPoints.size() + degree + 1 values, or empty for clamped uniform
 
     // Fills in missing or inconsistent weights and knots; false when the curve cannot be
     // evaluated (fewer than two control points, degree below 1, knots not ascending).

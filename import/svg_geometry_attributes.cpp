@@ -52,7 +52,8 @@ bool functionMatrix(const QString &name, const QVector<double> &a, QTransform *m
         const double c = std::cos(r), s = std::sin(r);
         const QTransform rot(c, s, -s, c, 0, 0);
         if (n == 3)
-            *m = QTransform::fromTranslate(-a[1], -a[2]) * rot * QTransform::fromTranslate(a[1], a[2]);
+            *m = QTransform::fromTranslate(-a[1], -a[2]) * rot
+                 * QTransform::fromTranslate(a[1], a[2]);
         else
             *m = rot;
     } else if (name == QLatin1String("skewX") && n == 1) {
@@ -103,7 +104,8 @@ ViewBox readViewBox(const QDomElement &e)
 {
     ViewBox vb;
     SvgNumberScanner in(e.attribute(QStringLiteral("viewBox")));
-    if (in.readNumber(&vb.x) && in.readNumber(&vb.y) && in.readNumber(&vb.w) && in.readNumber(&vb.h))
+    if (in.readNumber(&vb.x) && in.readNumber(&vb.y) && in.readNumber(&vb.w)
+        && in.readNumber(&vb.h))
         vb.valid = vb.w > 0 && vb.h > 0;
     return vb;
 }
@@ -130,7 +132,7 @@ QTransform fitViewBox(const ViewBox &vb, double w, double h, const QString &aspe
         ty = (h - vb.h * s) * fraction("YMin", "YMid");
     }
     return QTransform::fromTranslate(-vb.x, -vb.y) * QTransform::fromScale(sx, sy)
-        * QTransform::fromTranslate(tx, ty);
+           * QTransform::fromTranslate(tx, ty);
 }
 
 } // namespace

@@ -9,8 +9,14 @@ namespace lumitra {
 
 namespace {
 
-inline bool isDigit(ushort c) { return c >= '0' && c <= '9'; }
-inline bool isSpace(ushort c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f'; }
+inline bool isDigit(ushort c)
+{
+    return c >= '0' && c <= '9';
+}
+inline bool isSpace(ushort c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
 
 } // namespace
 

@@ -42,11 +42,11 @@ public:
 
 private:
     QPointF m_current;
-    QPointF m_start;         // start of the current subpath
-    QPointF m_lastControl;   // second control point of the last cubic
+    QPointF m_start;       // start of the current subpath
+    QPointF m_lastControl; // second control point of the last cubic
     QPointF m_lastQuadControl;
-    ushort m_previous = 0;   // upper-case letter of the last command applied
-    bool m_closed = false;   // the last command was Z
+    ushort m_previous = 0; // upper-case letter of the last command applied
+    bool m_closed = false; // the last command was Z
 
     void ensureStarted()
     {
@@ -110,7 +110,7 @@ bool PathBuilder::apply(ushort cmd, SvgNumberScanner &in)
         } else {
             // The first control point mirrors the last one of a preceding cubic.
             c1 = (m_previous == 'C' || m_previous == 'S') ? 2 * m_current - m_lastControl
-                                                           : m_current;
+                                                          : m_current;
             c2 = base + QPointF(a[0], a[1]);
             end = base + QPointF(a[2], a[3]);
         }

@@ -20,7 +20,6 @@ constexpr qint64 kMaxFileBytes = 256 << 20; // bytes
 constexpr double kMaxCoordinateMm = 1e6;    // one kilometre either way
 constexpr double kMinExtentMm = 1e-9;       // smaller shapes are points
 
-
 // The tag without a namespace prefix ("svg:path" reads as "path").
 QString localTag(const QDomElement &e)
 {
@@ -31,11 +30,11 @@ QString localTag(const QDomElement &e)
 
 bool isSkippedContainer(const QString &tag)
 {
-    static const QStringList neverDrawn = {
-        QStringLiteral("clipPath"), QStringLiteral("mask"),   QStringLiteral("pattern"),
-        QStringLiteral("marker"),   QStringLiteral("symbol"), QStringLiteral("metadata")};
+    static const QStringList neverDrawn = {QStringLiteral("clipPath"), QStringLiteral("mask"),
+                                           QStringLiteral("pattern"),  QStringLiteral("marker"),
+                                           QStringLiteral("symbol"),   QStringLiteral("metadata")};
     return tag.contains(QLatin1String("desc")) || tag.contains(QLatin1String("defs"))
-        || neverDrawn.contains(tag);
+           || neverDrawn.contains(tag);
 }
 
 // Nesting depth and well-formedness, checked with the streaming reader before the document
@@ -57,7 +56,8 @@ bool precheck(const QByteArray &data, QString *error, bool *limitExceeded)
         }
     }
     if (xml.hasError()) {
-        *error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误") + QStringLiteral(": ") + xml.errorString();
+        *error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误") + QStringLiteral(": ")
+                 + xml.errorString();
         return false;
     }
     return true;
@@ -182,10 +182,10 @@ private:
 
 const QStringList &svgShapeTags()
 {
-    static const QStringList tags = {
-        QStringLiteral("path"),     QStringLiteral("rect"),    QStringLiteral("circle"),
-        QStringLiteral("ellipse"),  QStringLiteral("line"),    QStringLiteral("polygon"),
-        QStringLiteral("polyline")};
+    static const QStringList tags = {QStringLiteral("path"),    QStringLiteral("rect"),
+                                     QStringLiteral("circle"),  QStringLiteral("ellipse"),
+                                     QStringLiteral("line"),    QStringLiteral("polygon"),
+                                     QStringLiteral("polyline")};
     return tags;
 }
 
@@ -201,7 +201,8 @@ SvgImportResult readSvgData(const QByteArray &data)
     QDomDocument doc;
     QString message;
     if (!doc.setContent(data, &message)) {
-        result.error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误") + QStringLiteral(": ") + message;
+        result.error = QCoreApplication::translate("SvgImport", "SVG 文件格式错误")
+                       + QStringLiteral(": ") + message;
         return result;
     }
     const QDomElement root = doc.documentElement();
@@ -222,7 +223,8 @@ SvgImportResult readSvgFile(const QString &filePath)
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly)) {
         SvgImportResult result;
-        result.error = QCoreApplication::translate("SvgImport", "无法打开文件") + QStringLiteral(": ") + filePath;
+        result.error = QCoreApplication::translate("SvgImport", "无法打开文件")
+                       + QStringLiteral(": ") + filePath;
         return result;
     }
     if (file.size() > kMaxFileBytes) {

@@ -22,10 +22,8 @@ QString chooseWithDialog(QWidget *parent, const QString &suggestion)
 } // namespace
 
 GcodeJobController::GcodeJobController(QWidget *dialogParent, QObject *parent)
-    : QObject(parent)
-    , m_parent(dialogParent)
-    , m_generator(new Jk_gcode(this))
-    , m_chooser(chooseWithDialog)
+    : QObject(parent), m_parent(dialogParent), m_generator(new Jk_gcode(this)),
+      m_chooser(chooseWithDialog)
 {
 }
 

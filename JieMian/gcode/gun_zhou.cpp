@@ -4,9 +4,7 @@
 
 using namespace lumitra;
 
-Gun_Zhou::Gun_Zhou(QWidget *parent)
-    : QDialog(parent)
-    , ui(new Ui::Gun_Zhou)
+Gun_Zhou::Gun_Zhou(QWidget *parent) : QDialog(parent), ui(new Ui::Gun_Zhou)
 {
     ui->setupUi(this);
     connect(ui->kaiGuan_Box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

@@ -19,7 +19,10 @@ QString JobPreviewDialog::durationText(double seconds)
         return tr("%1 秒").arg(s);
     const qint64 h = s / 3600, m = (s % 3600) / 60, rest = s % 60;
     if (h > 0)
-        return QStringLiteral("%1:%2:%3").arg(h).arg(m, 2, 10, QLatin1Char('0')).arg(rest, 2, 10, QLatin1Char('0'));
+        return QStringLiteral("%1:%2:%3")
+            .arg(h)
+            .arg(m, 2, 10, QLatin1Char('0'))
+            .arg(rest, 2, 10, QLatin1Char('0'));
     return QStringLiteral("%1:%2").arg(m).arg(rest, 2, 10, QLatin1Char('0'));
 }
 

@@ -34,8 +34,8 @@ void MoShiYuLan::showFitted(QLabel *label, const QImage &image)
 {
     // The label's current rectangle: right - left + 1 by bottom - top + 1.
     const QRect r = label->rect();
-    label->setPixmap(fitToLabel(QPixmap::fromImage(image), r.right() - r.left() + 1,
-                                r.bottom() - r.top() + 1));
+    label->setPixmap(
+        fitToLabel(QPixmap::fromImage(image), r.right() - r.left() + 1, r.bottom() - r.top() + 1));
 }
 
 QPixmap MoShiYuLan::fitToLabel(const QPixmap &source, int width, int height)

@@ -215,14 +215,14 @@ void MachineController::runFileFromDisk()
         lumitra::show_notice(m_dialogParent, tr("设备雕刻中,暂时停止使用!"));
         return;
     }
-    const QString path =
-        m_fileChooser ? m_fileChooser()
-                      : QFileDialog::getOpenFileName(
-                            m_dialogParent, tr("Open File"),
-                            QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
-                            tr("Files (*.nc);;Files (*.gcode)"));
-    if (!path.endsWith(QLatin1String(".nc"), Qt::CaseInsensitive) &&
-        !path.endsWith(QLatin1String(".gcode"), Qt::CaseInsensitive))
+    const QString path = m_fileChooser
+                             ? m_fileChooser()
+                             : QFileDialog::getOpenFileName(
+                                 m_dialogParent, tr("Open File"),
+                                 QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
+                                 tr("Files (*.nc);;Files (*.gcode)"));
+    if (!path.endsWith(QLatin1String(".nc"), Qt::CaseInsensitive)
+        && !path.endsWith(QLatin1String(".gcode"), Qt::CaseInsensitive))
         return;
     runJob(path);
 }

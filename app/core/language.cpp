@@ -17,9 +17,9 @@ QStringList all_language_codes()
 
 QStringList offered_language_codes()
 {
-    return {QStringLiteral("zw"), QStringLiteral("yw"),   QStringLiteral("hw"),
-            QStringLiteral("rw"), QStringLiteral("dw"),   QStringLiteral("ydlw"),
-            QStringLiteral("fw"), QStringLiteral("xw"),   QStringLiteral("pty")};
+    return {QStringLiteral("zw"), QStringLiteral("yw"), QStringLiteral("hw"),
+            QStringLiteral("rw"), QStringLiteral("dw"), QStringLiteral("ydlw"),
+            QStringLiteral("fw"), QStringLiteral("xw"), QStringLiteral("pty")};
 }
 
 QString language_resource(const QString &code)

@@ -9,15 +9,15 @@ namespace lumitra {
 // GUI thread only, except `cancel`, which a long generation polls.
 struct ProgramState
 {
-    int width = 400;  // work area, whole millimetres (scene x 0..width)
-    int height = 400; // work area, whole millimetres (scene y -height..0)
-    int currentLayer = 0; // layer number picked on the palette, 0..29
-    bool unsaved = false; // the design changed since the last project save
-    int connectionMode = 0; // 0 not connected, 1 serial, 2 WiFi
-    bool modelFlag = false; // the controller identified itself as the maker's model
-    bool running = false;   // a job is on the machine (serial or WiFi busy)
-    QString jobFilePath;    // G-code file that the next run sends
-    QString preamble;       // text written once at the top of the next job
+    int width = 400;                // work area, whole millimetres (scene x 0..width)
+    int height = 400;               // work area, whole millimetres (scene y -height..0)
+    int currentLayer = 0;           // layer number picked on the palette, 0..29
+    bool unsaved = false;           // the design changed since the last project save
+    int connectionMode = 0;         // 0 not connected, 1 serial, 2 WiFi
+    bool modelFlag = false;         // the controller identified itself as the maker's model
+    bool running = false;           // a job is on the machine (serial or WiFi busy)
+    QString jobFilePath;            // G-code file that the next run sends
+    QString preamble;               // text written once at the top of the next job
     std::atomic_bool cancel{false}; // asks a running generation to stop
 };
 

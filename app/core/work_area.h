@@ -8,12 +8,12 @@ namespace lumitra {
 // What the controller's setting list ("$$") tells about the machine.
 struct MachineTravel
 {
-    int maxRateX = -1;         // setting 110 rounded, or -1 when not reported
-    int maxRateY = -1;         // setting 101 rounded, or -1 when not reported
-    double zTravel = 0.0;      // setting 132
+    int maxRateX = -1;          // setting 110 rounded, or -1 when not reported
+    int maxRateY = -1;          // setting 101 rounded, or -1 when not reported
+    double zTravel = 0.0;       // setting 132
     bool workAreaKnown = false; // 130 and 131 were both non-zero
-    int width = 0;             // rounded 130, valid when workAreaKnown
-    int height = 0;            // rounded 131, valid when workAreaKnown
+    int width = 0;              // rounded 130, valid when workAreaKnown
+    int height = 0;             // rounded 131, valid when workAreaKnown
 };
 
 // Reads settings 101, 110, 130, 131 and 132 from a map of setting number to

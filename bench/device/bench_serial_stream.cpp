@@ -59,7 +59,7 @@ long peakRssKb()
 }
 
 // Runs the event loop until `signal` of `sender` fires or `ms` pass; true when it fired.
-template <typename Sender, typename Signal> bool waitFor(Sender *sender, Signal signal, int ms)
+template<typename Sender, typename Signal> bool waitFor(Sender *sender, Signal signal, int ms)
 {
     QEventLoop loop;
     bool fired = false;
@@ -90,8 +90,8 @@ RunResult stream(const QString &path, qint64 jobBytes, double bytesPerSecond)
     if (!fake.start())
         return r;
     Jk_com com;
-    if (!com.connectPort(fake.portName()) || !waitFor(&com, &Jk_com::yi_lian_jie, 5000) ||
-        !com.isLinked())
+    if (!com.connectPort(fake.portName()) || !waitFor(&com, &Jk_com::yi_lian_jie, 5000)
+        || !com.isLinked())
         return r;
     lumitra::programState().jobFilePath = path;
     const qint64 before = fake.bytesReceived();

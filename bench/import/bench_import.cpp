@@ -16,8 +16,8 @@
 #include <QRandomGenerator>
 #include <cstdio>
 #include <ctime>
-#include <optional>
 #include <functional>
+#include <optional>
 
 namespace {
 
@@ -56,7 +56,8 @@ QImage photoLike(int w, int h)
         for (int x = 0; x < w; ++x) {
             const int v = (x * 255 / w + y * 255 / h) / 2;
             const int n = int(rng.bounded(40)) - 20;
-            line[x] = qRgba(qBound(0, v + n, 255), qBound(0, 255 - v + n, 255), qBound(0, v, 255), 255);
+            line[x] =
+                qRgba(qBound(0, v + n, 255), qBound(0, 255 - v + n, 255), qBound(0, v, 255), 255);
         }
     }
     return img;
@@ -91,10 +92,13 @@ qint64 writeBigSvg(const QString &path, qint64 bytes)
     qint64 written = 0;
     int group = 0;
     while (written < bytes) {
-        f.write(QStringLiteral("<g transform=\"translate(%1 %2)\">\n").arg(group % 10 * 25).arg(group / 10 % 10 * 25).toUtf8());
+        f.write(QStringLiteral("<g transform=\"translate(%1 %2)\">\n")
+                    .arg(group % 10 * 25)
+                    .arg(group / 10 % 10 * 25)
+                    .toUtf8());
         for (int k = 0; k < 20 && written < bytes; ++k) {
             QByteArray d = "M" + QByteArray::number(rng.bounded(20.0), 'f', 3) + ","
-                + QByteArray::number(rng.bounded(20.0), 'f', 3);
+                           + QByteArray::number(rng.bounded(20.0), 'f', 3);
             while (d.size() < 50000) {
                 const double a = rng.bounded(2.0) - 1, b = rng.bounded(2.0) - 1;
                 switch (rng.bounded(4)) {
@@ -102,16 +106,20 @@ qint64 writeBigSvg(const QString &path, qint64 bytes)
                     d += "l" + QByteArray::number(a, 'f', 3) + "," + QByteArray::number(b, 'f', 3);
                     break;
                 case 1:
-                    d += "c" + QByteArray::number(a / 2, 'f', 3) + "," + QByteArray::number(b, 'f', 3)
-                        + " " + QByteArray::number(a, 'f', 3) + "," + QByteArray::number(-b, 'f', 3)
-                        + " " + QByteArray::number(a * 1.5, 'f', 3) + "," + QByteArray::number(b / 3, 'f', 3);
+                    d += "c" + QByteArray::number(a / 2, 'f', 3) + ","
+                         + QByteArray::number(b, 'f', 3) + " " + QByteArray::number(a, 'f', 3) + ","
+                         + QByteArray::number(-b, 'f', 3) + " "
+                         + QByteArray::number(a * 1.5, 'f', 3) + ","
+                         + QByteArray::number(b / 3, 'f', 3);
                     break;
                 case 2:
-                    d += "q" + QByteArray::number(a, 'f', 3) + "," + QByteArray::number(b, 'f', 3) + " "
-                        + QByteArray::number(b, 'f', 3) + "," + QByteArray::number(a, 'f', 3);
+                    d += "q" + QByteArray::number(a, 'f', 3) + "," + QByteArray::number(b, 'f', 3)
+                         + " " + QByteArray::number(b, 'f', 3) + ","
+                         + QByteArray::number(a, 'f', 3);
                     break;
                 default:
-                    d += "a1.5,1 15 0 1 " + QByteArray::number(a, 'f', 3) + "," + QByteArray::number(b, 'f', 3);
+                    d += "a1.5,1 15 0 1 " + QByteArray::number(a, 'f', 3) + ","
+                         + QByteArray::number(b, 'f', 3);
                     break;
                 }
             }
@@ -152,14 +160,16 @@ int main(int argc, char **argv)
     const QString svgPath = QDir(folder).filePath(QStringLiteral("bench_import_20mb.svg"));
     const qint64 pathBytes = writeBigSvg(svgPath, 20 * 1000 * 1000);
     int shapes = 0, elements = 0;
-    const double svg = bestOfThree([&] {
-        const QList<Jk_tu_yuan *> items = lumitra::importSvgItems(svgPath, nullptr);
-        shapes = items.size();
-        elements = 0;
-        for (const Jk_tu_yuan *item : items)
-            elements += item->path.elementCount();
-        qDeleteAll(items);
-    }, &cpu);
+    const double svg = bestOfThree(
+        [&] {
+            const QList<Jk_tu_yuan *> items = lumitra::importSvgItems(svgPath, nullptr);
+            shapes = items.size();
+            elements = 0;
+            for (const Jk_tu_yuan *item : items)
+                elements += item->path.elementCount();
+            qDeleteAll(items);
+        },
+        &cpu);
     std::printf("svg import %.1f MB path data (%d paths, %d elements): %.3f s, cpu %.3f s "
                 "(target < 2 s)\n",
                 pathBytes / 1e6, shapes, elements, svg, cpu);

@@ -21,17 +21,17 @@ private slots:
         QTest::newRow("unknown") << QStringList{"--nope"} << int(CommandLine::Exit) << 2;
         QTest::newRow("export") << QStringList{"--export", "a.svg", "-o", "a.nc"}
                                 << int(CommandLine::Export) << 0;
-        QTest::newRow("export without output") << QStringList{"--export", "a.svg"}
-                                               << int(CommandLine::Exit) << 2;
+        QTest::newRow("export without output")
+            << QStringList{"--export", "a.svg"} << int(CommandLine::Exit) << 2;
         QTest::newRow("run") << QStringList{"--port", "/dev/ttyUSB0", "--run", "a.nc"}
                              << int(CommandLine::Run) << 0;
-        QTest::newRow("run without port") << QStringList{"--run", "a.nc"}
-                                          << int(CommandLine::Exit) << 2;
+        QTest::newRow("run without port")
+            << QStringList{"--run", "a.nc"} << int(CommandLine::Exit) << 2;
         QTest::newRow("both modes")
             << QStringList{"--export", "a.svg", "-o", "b.nc", "--port", "p", "--run", "c"}
             << int(CommandLine::Exit) << 2;
-        QTest::newRow("process option without export") << QStringList{"--power", "50"}
-                                                       << int(CommandLine::Exit) << 2;
+        QTest::newRow("process option without export")
+            << QStringList{"--power", "50"} << int(CommandLine::Exit) << 2;
         QTest::newRow("home without run") << QStringList{"--home"} << int(CommandLine::Exit) << 2;
     }
     void parse()
@@ -48,10 +48,10 @@ private slots:
 
     void exportKeepsProcessOptions()
     {
-        const CommandLine cl = parse_command_line(
-            {"lumitra", "--export", "in.png", "-o", "out.nc", "--power", "55", "--mode", "dither",
-             "--spacing", "0.2", "--angle", "45", "--overscan", "2", "--speed", "3000",
-             "--passes", "2"});
+        const CommandLine cl =
+            parse_command_line({"lumitra", "--export", "in.png", "-o", "out.nc", "--power", "55",
+                                "--mode", "dither", "--spacing", "0.2", "--angle", "45",
+                                "--overscan", "2", "--speed", "3000", "--passes", "2"});
         QCOMPARE(cl.input, QStringLiteral("in.png"));
         QCOMPARE(cl.output, QStringLiteral("out.nc"));
         QCOMPARE(cl.processOptions.size(), 7);

@@ -28,10 +28,14 @@ private slots:
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("plain key") << "language" << "CANSHU/language";
-        QTest::newRow("own group") << "GunZhou/GunZhouMM" << "GunZhou/GunZhouMM";
-        QTest::newRow("deep group") << "a/b/c" << "a/b/c";
-        QTest::newRow("leading slash") << "/x" << "/x";
+        QTest::newRow("plain key") << "language"
+                                   << "CANSHU/language";
+        QTest::newRow("own group") << "GunZhou/GunZhouMM"
+                                   << "GunZhou/GunZhouMM";
+        QTest::newRow("deep group") << "a/b/c"
+                                    << "a/b/c";
+        QTest::newRow("leading slash") << "/x"
+                                       << "/x";
     }
     void keyRule()
     {
@@ -48,8 +52,9 @@ private slots:
 
     void settingsFileLivesUnderGenericData()
     {
-        const QString expected = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                                 + QStringLiteral("/LumitraConfig/config.ini");
+        const QString expected =
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+            + QStringLiteral("/LumitraConfig/config.ini");
         QCOMPARE(config_path(), expected);
         QVERIFY(QDir(config_dir()).exists());
     }
@@ -90,11 +95,16 @@ private slots:
         QTest::addColumn<bool>("known");
         QTest::addColumn<int>("width");
         QTest::addColumn<int>("height");
-        QTest::newRow("rounded") << "300.4" << "180.6" << true << 300 << 181;
-        QTest::newRow("whole") << "410.000" << "400.000" << true << 410 << 400;
-        QTest::newRow("zero width") << "0" << "180.6" << false << 400 << 400;
-        QTest::newRow("zero height") << "300" << "0.000" << false << 400 << 400;
-        QTest::newRow("both zero") << "0" << "0" << false << 400 << 400;
+        QTest::newRow("rounded") << "300.4"
+                                 << "180.6" << true << 300 << 181;
+        QTest::newRow("whole") << "410.000"
+                               << "400.000" << true << 410 << 400;
+        QTest::newRow("zero width") << "0"
+                                    << "180.6" << false << 400 << 400;
+        QTest::newRow("zero height") << "300"
+                                     << "0.000" << false << 400 << 400;
+        QTest::newRow("both zero") << "0"
+                                   << "0" << false << 400 << 400;
     }
     void workAreaFromMachine()
     {
@@ -103,9 +113,11 @@ private slots:
         QFETCH(bool, known);
         QFETCH(int, width);
         QFETCH(int, height);
-        const MachineTravel t = work_area_from_machine(
-            {{130, x130}, {131, y131}, {110, QStringLiteral("6000.4")},
-             {101, QStringLiteral("3000")}, {132, QStringLiteral("12.5")}});
+        const MachineTravel t = work_area_from_machine({{130, x130},
+                                                        {131, y131},
+                                                        {110, QStringLiteral("6000.4")},
+                                                        {101, QStringLiteral("3000")},
+                                                        {132, QStringLiteral("12.5")}});
         QCOMPARE(t.workAreaKnown, known);
         QCOMPARE(programState().width, width);
         QCOMPARE(programState().height, height);
@@ -137,11 +149,11 @@ private slots:
 
     void serialInformationMapGivesNumbers()
     {
-        const QMap<int, QString> n = numbered_settings(
-            {{QStringLiteral("$130"), QStringLiteral("300.4")},
-             {QStringLiteral("$131"), QStringLiteral("180.6")},
-             {QStringLiteral("ji_xing"), QStringLiteral("X")},
-             {QStringLiteral("$abc"), QStringLiteral("1")}});
+        const QMap<int, QString> n =
+            numbered_settings({{QStringLiteral("$130"), QStringLiteral("300.4")},
+                               {QStringLiteral("$131"), QStringLiteral("180.6")},
+                               {QStringLiteral("ji_xing"), QStringLiteral("X")},
+                               {QStringLiteral("$abc"), QStringLiteral("1")}});
         QCOMPARE(n.size(), 2);
         QCOMPARE(n.value(130), QStringLiteral("300.4"));
         QCOMPARE(n.value(131), QStringLiteral("180.6"));

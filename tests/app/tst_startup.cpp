@@ -80,10 +80,10 @@ private slots:
             QSKIP("Xvfb is not installed");
         QProcess server;
         // -displayfd makes the server pick a free display and print its number.
-        server.start(xvfb, {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                            QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                            QStringLiteral("-screen"), QStringLiteral("0"),
-                            QStringLiteral("1600x1000x24")});
+        server.start(xvfb,
+                     {QStringLiteral("-displayfd"), QStringLiteral("1"),
+                      QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
+                      QStringLiteral("0"), QStringLiteral("1600x1000x24")});
         QVERIFY(server.waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(server.canReadLine(), 15000);
         const QString display = QString::fromLatin1(server.readLine()).trimmed();

@@ -27,8 +27,8 @@ class TestTranslations : public QObject
         for (int i = 0; i < contexts.size(); ++i) {
             const QDomElement context = contexts.at(i).toElement();
             const QString name = context.firstChildElement(QStringLiteral("name")).text();
-            for (QDomElement m = context.firstChildElement(QStringLiteral("message"));
-                 !m.isNull(); m = m.nextSiblingElement(QStringLiteral("message"))) {
+            for (QDomElement m = context.firstChildElement(QStringLiteral("message")); !m.isNull();
+                 m = m.nextSiblingElement(QStringLiteral("message"))) {
                 const QDomElement t = m.firstChildElement(QStringLiteral("translation"));
                 const QString type = t.attribute(QStringLiteral("type"));
                 Entry e;
@@ -49,12 +49,12 @@ private slots:
         const QString scanned = tmp.filePath(QStringLiteral("scan.ts"));
         const QString src = QStringLiteral(LUMITRA_SOURCE_DIR);
         QStringList args;
-        for (const char *dir : {"app", "JieMian", "document", "gcode", "device", "import",
-                                "camera", "cloud"})
+        for (const char *dir :
+             {"app", "JieMian", "document", "gcode", "device", "import", "camera", "cloud"})
             if (QFileInfo::exists(src + QLatin1Char('/') + QLatin1String(dir)))
                 args << src + QLatin1Char('/') + QLatin1String(dir);
-        args << QStringLiteral("-silent") << QStringLiteral("-locations")
-             << QStringLiteral("none") << QStringLiteral("-ts") << scanned;
+        args << QStringLiteral("-silent") << QStringLiteral("-locations") << QStringLiteral("none")
+             << QStringLiteral("-ts") << scanned;
         QProcess lupdate;
         lupdate.start(QStringLiteral(LUMITRA_LUPDATE), args);
         QVERIFY(lupdate.waitForFinished(60000));
@@ -72,9 +72,9 @@ private slots:
                 missing << it.key().first + QStringLiteral(": ") + it.key().second;
         }
         QVERIFY2(missing.isEmpty(),
-                 qPrintable(QStringLiteral("%1 untranslated English strings, e.g.\n  ")
-                                .arg(missing.size())
-                            + missing.mid(0, 20).join(QStringLiteral("\n  "))));
+                 qPrintable(
+                     QStringLiteral("%1 untranslated English strings, e.g.\n  ").arg(missing.size())
+                     + missing.mid(0, 20).join(QStringLiteral("\n  "))));
     }
 };
 

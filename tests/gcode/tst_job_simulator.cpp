@@ -11,7 +11,8 @@ class TestJobSimulator : public QObject
 {
     Q_OBJECT
 
-    static JobSimulator::Summary simulate(const QByteArray &job, QList<JobSimulator::Move> *moves = nullptr)
+    static JobSimulator::Summary simulate(const QByteArray &job,
+                                          QList<JobSimulator::Move> *moves = nullptr)
     {
         QBuffer buffer;
         buffer.setData(job);

@@ -12,28 +12,53 @@ inline QString g(int code, const QString &value)
 {
     return QString::number(code) + QLatin1Char('\n') + value + QLatin1Char('\n');
 }
-inline QString g(int code, double value) { return g(code, QString::number(value, 'g', 17)); }
-inline QString g(int code, int value) { return g(code, QString::number(value)); }
-inline QString g(int code, const char *value) { return g(code, QString::fromLatin1(value)); }
+inline QString g(int code, double value)
+{
+    return g(code, QString::number(value, 'g', 17));
+}
+inline QString g(int code, int value)
+{
+    return g(code, QString::number(value));
+}
+inline QString g(int code, const char *value)
+{
+    return g(code, QString::fromLatin1(value));
+}
 // Entity start on layer 0, and a point with z = 0 under the codes x, x + 10, x + 20.
-inline QString ent(const char *name) { return g(0, name) + g(8, "0"); }
-inline QString xy(int code, double x, double y) { return g(code, x) + g(code + 10, y) + g(code + 20, 0.0); }
-inline QString down(bool on) { return on ? g(210, 0.0) + g(220, 0.0) + g(230, -1.0) : QString(); }
+inline QString ent(const char *name)
+{
+    return g(0, name) + g(8, "0");
+}
+inline QString xy(int code, double x, double y)
+{
+    return g(code, x) + g(code + 10, y) + g(code + 20, 0.0);
+}
+inline QString down(bool on)
+{
+    return on ? g(210, 0.0) + g(220, 0.0) + g(230, -1.0) : QString();
+}
 
 inline QString line(double x1, double y1, double x2, double y2)
 {
     return ent("LINE") + xy(10, x1, y1) + xy(11, x2, y2);
 }
-inline QString circle(double cx, double cy, double r) { return ent("CIRCLE") + xy(10, cx, cy) + g(40, r); }
+inline QString circle(double cx, double cy, double r)
+{
+    return ent("CIRCLE") + xy(10, cx, cy) + g(40, r);
+}
 inline QString arc(double cx, double cy, double r, double a1, double a2, bool isDown = false)
 {
     return ent("ARC") + xy(10, cx, cy) + g(40, r) + down(isDown) + g(50, a1) + g(51, a2);
 }
-inline QString ellipse(double cx, double cy, double mx, double my, double ratio, double t1, double t2)
+inline QString ellipse(double cx, double cy, double mx, double my, double ratio, double t1,
+                       double t2)
 {
     return ent("ELLIPSE") + xy(10, cx, cy) + xy(11, mx, my) + g(40, ratio) + g(41, t1) + g(42, t2);
 }
-inline QString point(double x, double y) { return ent("POINT") + xy(10, x, y); }
+inline QString point(double x, double y)
+{
+    return ent("POINT") + xy(10, x, y);
+}
 
 struct Vertex
 {
@@ -57,19 +82,20 @@ inline QString spline(int degree, const QVector<QPointF> &control, const QVector
                       const QVector<double> &weights = {}, const QVector<QPointF> &fit = {})
 {
     QString s = ent("SPLINE") + g(210, 0.0) + g(220, 0.0) + g(230, 1.0)
-        + g(70, 8 | (weights.isEmpty() ? 0 : 4)) + g(71, degree) + g(72, knots.size())
-        + g(73, control.size()) + g(74, fit.size());
+                + g(70, 8 | (weights.isEmpty() ? 0 : 4)) + g(71, degree) + g(72, knots.size())
+                + g(73, control.size()) + g(74, fit.size());
     for (double k : knots)
         s += g(40, k);
     for (int i = 0; i < control.size(); ++i)
-        s += xy(10, control[i].x(), control[i].y()) + (weights.isEmpty() ? QString() : g(41, weights[i]));
+        s += xy(10, control[i].x(), control[i].y())
+             + (weights.isEmpty() ? QString() : g(41, weights[i]));
     for (const QPointF &p : fit)
         s += xy(11, p.x(), p.y());
     return s;
 }
 inline QString insert(const char *block, double x, double y, double sx = 1, double sy = 1,
-                      double angle = 0, int cols = 1, int rows = 1, double colSp = 0, double rowSp = 0,
-                      bool isDown = false)
+                      double angle = 0, int cols = 1, int rows = 1, double colSp = 0,
+                      double rowSp = 0, bool isDown = false)
 {
     QString s = ent("INSERT") + g(2, block) + xy(10, x, y) + g(41, sx) + g(42, sy) + g(50, angle);
     if (cols != 1 || rows != 1)
@@ -78,7 +104,8 @@ inline QString insert(const char *block, double x, double y, double sx = 1, doub
 }
 inline QString block(const char *name, double bx, double by, const QString &content)
 {
-    return ent("BLOCK") + g(2, name) + g(70, 0) + xy(10, bx, by) + g(3, name) + content + ent("ENDBLK");
+    return ent("BLOCK") + g(2, name) + g(70, 0) + xy(10, bx, by) + g(3, name) + content
+           + ent("ENDBLK");
 }
 
 // A whole file; insunits < 0 leaves the header variable out.

@@ -79,7 +79,8 @@ QByteArray randomBytes(int n, quint32 seed, bool printable)
     QRandomGenerator rng(seed);
     QByteArray b(n, '\0');
     for (int i = 0; i < n; ++i)
-        b[i] = printable ? char(rng.bounded(10) == 0 ? '\n' : 32 + rng.bounded(95)) : char(rng.bounded(256));
+        b[i] = printable ? char(rng.bounded(10) == 0 ? '\n' : 32 + rng.bounded(95))
+                         : char(rng.bounded(256));
     return b;
 }
 
@@ -146,9 +147,11 @@ void TestBadFiles::initTestCase()
                                         + QByteArray("</g>").repeated(100000) + "</svg>");
     using namespace dxftext;
     const QByteArray lines = file(line(0, 0, 1, 1) + line(1, 1, 2, 0) + line(2, 0, 3, 3)).toUtf8();
-    put(QStringLiteral("truncated.dxf"), lines.left(lines.indexOf("LINE", lines.lastIndexOf("LINE") - 5) + 40));
+    put(QStringLiteral("truncated.dxf"),
+        lines.left(lines.indexOf("LINE", lines.lastIndexOf("LINE") - 5) + 40));
     put(QStringLiteral("array_bomb.dxf"),
-        file(insert("B", 0, 0, 1, 1, 0, 10000, 10000, 1, 1), 4, block("B", 0, 0, line(0, 0, 1, 0))).toUtf8());
+        file(insert("B", 0, 0, 1, 1, 0, 10000, 10000, 1, 1), 4, block("B", 0, 0, line(0, 0, 1, 0)))
+            .toUtf8());
     m_files = QDir(m_dir.path()).entryList(QDir::Files, QDir::Name);
     // The oversized images really announce their size in the header, which is what the
     // bitmap importer checks before decoding anything (the BMP reader refuses it itself).

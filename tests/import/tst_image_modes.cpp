@@ -12,7 +12,10 @@ using namespace lumitra;
 
 namespace {
 
-int sum32(QRgb c) { return 11 * qRed(c) + 16 * qGreen(c) + 5 * qBlue(c); }
+int sum32(QRgb c)
+{
+    return 11 * qRed(c) + 16 * qGreen(c) + 5 * qBlue(c);
+}
 
 QImage refThreshold(const QImage &src)
 {
@@ -20,8 +23,9 @@ QImage refThreshold(const QImage &src)
     for (int y = 0; y < img.height(); ++y)
         for (int x = 0; x < img.width(); ++x) {
             const QRgb c = img.pixel(x, y);
-            img.setPixel(x, y, qAlpha(c) == 0 ? qRgba(0, 0, 0, 0)
-                                              : (sum32(c) < 4096 ? qRgb(0, 0, 0) : qRgb(255, 255, 255)));
+            img.setPixel(x, y,
+                         qAlpha(c) == 0 ? qRgba(0, 0, 0, 0)
+                                        : (sum32(c) < 4096 ? qRgb(0, 0, 0) : qRgb(255, 255, 255)));
         }
     return img;
 }
@@ -83,7 +87,9 @@ QImage randomImage(QSize size, QImage::Format format, quint32 seed, bool opaque)
         for (int x = 0; x < size.width(); ++x) {
             const int pick = int(rng.bounded(3));
             const int a = opaque || pick == 1 ? 255 : (pick == 0 ? 0 : int(rng.bounded(256)));
-            img.setPixel(x, y, qRgba(int(rng.bounded(256)), int(rng.bounded(256)), int(rng.bounded(256)), a));
+            img.setPixel(
+                x, y,
+                qRgba(int(rng.bounded(256)), int(rng.bounded(256)), int(rng.bounded(256)), a));
         }
     return img.convertToFormat(format);
 }
@@ -142,9 +148,12 @@ void TestImageModes::matchesPerPixelDefinition_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("opaque");
     const QList<QPair<const char *, QImage::Format>> formats = {
-        {"argb32", QImage::Format_ARGB32}, {"argb32pm", QImage::Format_ARGB32_Premultiplied},
-        {"rgb32", QImage::Format_RGB32},   {"rgba8888", QImage::Format_RGBA8888},
-        {"rgba8888pm", QImage::Format_RGBA8888_Premultiplied}, {"grey8", QImage::Format_Grayscale8}};
+        {"argb32", QImage::Format_ARGB32},
+        {"argb32pm", QImage::Format_ARGB32_Premultiplied},
+        {"rgb32", QImage::Format_RGB32},
+        {"rgba8888", QImage::Format_RGBA8888},
+        {"rgba8888pm", QImage::Format_RGBA8888_Premultiplied},
+        {"grey8", QImage::Format_Grayscale8}};
     for (int mode : {0, 1, 3, 4})
         for (const auto &f : formats)
             for (const QSize &s : {QSize(1, 9), QSize(9, 1), QSize(37, 23)})
@@ -160,11 +169,12 @@ void TestImageModes::matchesPerPixelDefinition()
     QFETCH(int, format);
     QFETCH(QSize, size);
     QFETCH(bool, opaque);
-    const QImage src = randomImage(size, QImage::Format(format), quint32(mode * 1000 + format * 10 + size.width()), opaque);
-    const QImage expected = mode == 0 ? refThreshold(src)
-        : mode == 1                   ? refDither(src)
-        : mode == 3                   ? refGreyscale(src)
-                                      : refNegative(src);
+    const QImage src = randomImage(size, QImage::Format(format),
+                                   quint32(mode * 1000 + format * 10 + size.width()), opaque);
+    const QImage expected = mode == 0   ? refThreshold(src)
+                            : mode == 1 ? refDither(src)
+                            : mode == 3 ? refGreyscale(src)
+                                        : refNegative(src);
     const QImage actual = applyImageMode(src, mode);
     QCOMPARE(actual.format(), expected.format());
     QCOMPARE(actual, expected);
@@ -177,13 +187,19 @@ void TestImageModes::transparentImage_data()
     QTest::addColumn<QRgb>("expected");
     QTest::addColumn<double>("share"); // of the pixels that must have the expected colour
 
-    QTest::newRow("threshold stays transparent") << 0 << qRgba(255, 255, 255, 0) << qRgba(0, 0, 0, 0) << 1.0;
+    QTest::newRow("threshold stays transparent")
+        << 0 << qRgba(255, 255, 255, 0) << qRgba(0, 0, 0, 0) << 1.0;
     // Dithered over yellow (grey 215): about 215/255 of the pixels come out white.
-    QTest::newRow("dither of the yellow background") << 1 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 215.0 / 255.0;
-    QTest::newRow("outline finds no edge") << 2 << qRgba(255, 255, 255, 0) << qRgb(255, 255, 255) << 1.0;
-    QTest::newRow("greyscale becomes white") << 3 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 1.0;
-    QTest::newRow("negative of hidden white is black") << 4 << qRgba(255, 255, 255, 0) << qRgb(0, 0, 0) << 1.0;
-    QTest::newRow("negative of hidden black is white") << 4 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 1.0;
+    QTest::newRow("dither of the yellow background")
+        << 1 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 215.0 / 255.0;
+    QTest::newRow("outline finds no edge")
+        << 2 << qRgba(255, 255, 255, 0) << qRgb(255, 255, 255) << 1.0;
+    QTest::newRow("greyscale becomes white")
+        << 3 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 1.0;
+    QTest::newRow("negative of hidden white is black")
+        << 4 << qRgba(255, 255, 255, 0) << qRgb(0, 0, 0) << 1.0;
+    QTest::newRow("negative of hidden black is white")
+        << 4 << qRgba(0, 0, 0, 0) << qRgb(255, 255, 255) << 1.0;
 }
 
 void TestImageModes::transparentImage()
@@ -226,18 +242,22 @@ void TestImageModes::thresholdBoundary()
 void TestImageModes::ditherSmallImages_data()
 {
     QTest::addColumn<int>("width");
-    QTest::addColumn<QList<int>>("greys"); // row by row
+    QTest::addColumn<QList<int>>("greys");    // row by row
     QTest::addColumn<QList<int>>("expected"); // 0 black, 255 white
 
     // 120 turns black and leaves +37 (5/16 of 120) below: 90 + 37 = 127 stays black.
     // Had the pixel below received 7/16 it would have turned white.
-    QTest::newRow("one column: only 5/16 goes below") << 1 << QList<int>{120, 90} << QList<int>{0, 0};
+    QTest::newRow("one column: only 5/16 goes below")
+        << 1 << QList<int>{120, 90} << QList<int>{0, 0};
     // 100 -> black, +31 below: 131 -> white, -124 * 5 / 16 = -38 below: 62 -> black.
-    QTest::newRow("one column alternating") << 1 << QList<int>{100, 100, 100} << QList<int>{0, 255, 0};
-    QTest::newRow("one column clamped at white") << 1 << QList<int>{250, 255, 0} << QList<int>{255, 255, 0};
+    QTest::newRow("one column alternating")
+        << 1 << QList<int>{100, 100, 100} << QList<int>{0, 255, 0};
+    QTest::newRow("one column clamped at white")
+        << 1 << QList<int>{250, 255, 0} << QList<int>{255, 255, 0};
     // Grey 254 turns white with error -1; every share of -1 truncates to 0, so the 128 next
     // to it stays 128 and turns white (a floor division would make it 127, black).
-    QTest::newRow("negative share to the right") << 2 << QList<int>{254, 128} << QList<int>{255, 255};
+    QTest::newRow("negative share to the right")
+        << 2 << QList<int>{254, 128} << QList<int>{255, 255};
     QTest::newRow("negative share below") << 1 << QList<int>{254, 128} << QList<int>{255, 255};
 }
 
@@ -306,7 +326,8 @@ void TestImageModes::traceForeground_data()
     QTest::newRow("black alpha 254") << patch(qRgba(0, 0, 0, 254)) << false;
     QTest::newRow("black alpha 1") << patch(qRgba(0, 0, 0, 1)) << false;
     QTest::newRow("fully transparent black") << filled(30, 20, qRgba(0, 0, 0, 0)) << false;
-    QTest::newRow("white 8-bit grey") << filled(17, 9, qRgb(255, 255, 255), QImage::Format_Grayscale8) << false;
+    QTest::newRow("white 8-bit grey")
+        << filled(17, 9, qRgb(255, 255, 255), QImage::Format_Grayscale8) << false;
 }
 
 void TestImageModes::traceForeground()
@@ -364,7 +385,8 @@ void TestImageModes::squareIsPlacedByScaleAndOffset()
     const QRectF expected(offset.x() + 5 * scale, offset.y() + 8 * scale, 20 * scale, 12 * scale);
     const double tol = 1e-9 + scale * 1e-6;
     QVERIFY2(qAbs(box.left() - expected.left()) <= tol && qAbs(box.top() - expected.top()) <= tol
-                 && qAbs(box.right() - expected.right()) <= tol && qAbs(box.bottom() - expected.bottom()) <= tol,
+                 && qAbs(box.right() - expected.right()) <= tol
+                 && qAbs(box.bottom() - expected.bottom()) <= tol,
              qPrintable(describe(box)));
 }
 

@@ -22,15 +22,23 @@ namespace {
 bool near(const QRectF &a, const QRectF &b, double tol)
 {
     return qAbs(a.left() - b.left()) <= tol && qAbs(a.top() - b.top()) <= tol
-        && qAbs(a.right() - b.right()) <= tol && qAbs(a.bottom() - b.bottom()) <= tol;
+           && qAbs(a.right() - b.right()) <= tol && qAbs(a.bottom() - b.bottom()) <= tol;
 }
 
 QByteArray describe(const QRectF &r)
 {
-    return QStringLiteral("(%1,%2 %3x%4)").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height()).toUtf8();
+    return QStringLiteral("(%1,%2 %3x%4)")
+        .arg(r.x())
+        .arg(r.y())
+        .arg(r.width())
+        .arg(r.height())
+        .toUtf8();
 }
 
-QRectF sceneBox(const Jk_tu_yuan *item) { return item->sceneTransform().map(item->path).boundingRect(); }
+QRectF sceneBox(const Jk_tu_yuan *item)
+{
+    return item->sceneTransform().map(item->path).boundingRect();
+}
 
 // The outline's vertices, subpath by subpath (the reader flattens splines into lines).
 QVector<QPolygonF> lineVertices(const QPainterPath &path)
@@ -103,40 +111,46 @@ void TestImportItems::entities_data()
     QTest::addColumn<int>("subpaths");
     const QString none;
     const double r50 = std::sqrt(50.0);
-    auto row = [](const char *name, const QString &blocks, const QString &entities, QRectF box, int subpaths) {
-        QTest::newRow(name) << blocks << entities << box << subpaths;
-    };
+    auto row = [](const char *name, const QString &blocks, const QString &entities, QRectF box,
+                  int subpaths) { QTest::newRow(name) << blocks << entities << box << subpaths; };
     row("circle", none, circle(10, 20, 5), {5, 15, 10, 10}, 1);
     row("arc first quadrant", none, arc(0, 0, 10, 0, 90), {0, 0, 10, 10}, 1);
     row("arc across zero degrees", none, arc(0, 0, 10, 270, 90), {0, -10, 10, 20}, 1);
     row("full ellipse", none, ellipse(0, 0, 20, 0, 0.5, 0, 2 * M_PI), {-20, -10, 40, 20}, 1);
-    row("ellipse with vertical major axis", none, ellipse(0, 0, 0, 20, 0.25, 0, 2 * M_PI), {-5, -20, 10, 40}, 1);
+    row("ellipse with vertical major axis", none, ellipse(0, 0, 0, 20, 0.25, 0, 2 * M_PI),
+        {-5, -20, 10, 40}, 1);
     row("half ellipse", none, ellipse(0, 0, 20, 0, 0.5, 0, M_PI), {-20, 0, 40, 10}, 1);
     // A bulge of 1 is a half circle turning counter-clockwise: below a left-to-right chord.
     row("bulge 1 bows below", none, lwpolyline({{0, 0, 1}, {10, 0, 0}}, false), {0, -5, 10, 5}, 1);
     row("bulge -1 bows above", none, lwpolyline({{0, 0, -1}, {10, 0, 0}}, false), {0, 0, 10, 5}, 1);
     row("closing segment with bulge", none, lwpolyline({{0, 0, 0}, {10, 0, 0}, {10, 10, 1}}, true),
         {5 - r50, 0, 5 + r50, 5 + r50}, 1);
-    row("old-style polyline with bulge", none, polyline({{0, 0, 0}, {20, 0, 1}, {20, 10, 0}}), {0, 0, 25, 10}, 1);
+    row("old-style polyline with bulge", none, polyline({{0, 0, 0}, {20, 0, 1}, {20, 10, 0}}),
+        {0, 0, 25, 10}, 1);
     row("point ignored beside a line", none, point(500, 500) + line(0, 0, 1, 1), {0, 0, 1, 1}, 1);
-    row("lwpolyline with extrusion down", none, lwpolyline({{1, 1, 0}, {2, 3, 0}}, false, true), {-2, 1, 1, 2}, 1);
-    row("only the arc with extrusion down is mirrored", none, arc(10, 0, 5, 0, 90, true) + line(0, 0, 1, 1),
-        {-15, 0, 16, 5}, 2);
+    row("lwpolyline with extrusion down", none, lwpolyline({{1, 1, 0}, {2, 3, 0}}, false, true),
+        {-2, 1, 1, 2}, 1);
+    row("only the arc with extrusion down is mirrored", none,
+        arc(10, 0, 5, 0, 90, true) + line(0, 0, 1, 1), {-15, 0, 16, 5}, 2);
 
     const QString square = lwpolyline({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, true);
     const QString sq = block("SQ", 0, 0, square);
     row("insert scaled and rotated", sq, insert("SQ", 100, 200, 2, 2, 90), {98, 200, 2, 2}, 1);
-    row("block base point", block("B", 5, 5, lwpolyline({{5, 5, 0}, {6, 5, 0}, {6, 6, 0}, {5, 6, 0}}, true)),
+    row("block base point",
+        block("B", 5, 5, lwpolyline({{5, 5, 0}, {6, 5, 0}, {6, 6, 0}, {5, 6, 0}}, true)),
         insert("B", 0, 0), {0, 0, 1, 1}, 1);
-    row("nested blocks", block("INNER", 0, 0, line(0, 0, 1, 0)) + block("OUTER", 0, 0, insert("INNER", 10, 0)),
+    row("nested blocks",
+        block("INNER", 0, 0, line(0, 0, 1, 0)) + block("OUTER", 0, 0, insert("INNER", 10, 0)),
         insert("OUTER", 0, 5, 3, 3), {30, 5, 3, 0}, 1);
     row("array of inserts", sq, insert("SQ", 0, 0, 1, 1, 0, 3, 2, 10, 20), {0, 0, 21, 21}, 6);
     row("mirrored insert", sq, insert("SQ", 5, 0, -1, 1), {4, 0, 1, 1}, 1);
-    row("insert with extrusion down", sq, insert("SQ", 5, 0, 1, 1, 0, 1, 1, 0, 0, true), {-6, 0, 1, 1}, 1);
-    row("block names ignore case", block("Part", 0, 0, square), insert("PART", 7, 7), {7, 7, 1, 1}, 1);
+    row("insert with extrusion down", sq, insert("SQ", 5, 0, 1, 1, 0, 1, 1, 0, 0, true),
+        {-6, 0, 1, 1}, 1);
+    row("block names ignore case", block("Part", 0, 0, square), insert("PART", 7, 7), {7, 7, 1, 1},
+        1);
     row("missing block skipped", none, insert("NONE", 7, 7) + line(0, 0, 2, 2), {0, 0, 2, 2}, 1);
-    row("block content alone is not drawn", block("UNUSED", 0, 0, line(100, 100, 200, 200)), line(0, 0, 2, 2),
-        {0, 0, 2, 2}, 1);
+    row("block content alone is not drawn", block("UNUSED", 0, 0, line(100, 100, 200, 200)),
+        line(0, 0, 2, 2), {0, 0, 2, 2}, 1);
 }
 
 void TestImportItems::entities()
@@ -148,7 +162,8 @@ void TestImportItems::entities()
     Jk_dxf reader(nullptr);
     const QPainterPath path = reader.dxf_jie_xi(put(file(entities, 4, blocks)));
     QVERIFY2(reader.lastError().isEmpty(), qPrintable(reader.lastError()));
-    QVERIFY2(near(path.boundingRect(), box, 1e-6), describe(path.boundingRect()) + " expected " + describe(box));
+    QVERIFY2(near(path.boundingRect(), box, 1e-6),
+             describe(path.boundingRect()) + " expected " + describe(box));
     QCOMPARE(lineVertices(path).size(), subpaths);
 }
 
@@ -157,8 +172,9 @@ void TestImportItems::unitsFromHeader_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<double>("mmPerUnit");
     QTest::newRow("no header variable") << -1 << 1.0;
-    const QList<QPair<int, double>> units = {{0, 1.0},    {1, 25.4},     {2, 304.8},  {5, 10.0},
-                                             {6, 1000.0}, {9, 0.0254},   {13, 0.001}, {14, 100.0}, {99, 1.0}};
+    const QList<QPair<int, double>> units = {{0, 1.0},    {1, 25.4},   {2, 304.8},
+                                             {5, 10.0},   {6, 1000.0}, {9, 0.0254},
+                                             {13, 0.001}, {14, 100.0}, {99, 1.0}};
     for (const auto &u : units)
         QTest::addRow("$INSUNITS %d", u.first) << u.first << u.second;
 }
@@ -168,9 +184,11 @@ void TestImportItems::unitsFromHeader()
     QFETCH(int, code);
     QFETCH(double, mmPerUnit);
     Jk_dxf reader(nullptr);
-    const QPainterPath path = reader.dxf_jie_xi(put(file(line(1, 2, 3, 6) + circle(0, 0, 0.5), code)));
+    const QPainterPath path =
+        reader.dxf_jie_xi(put(file(line(1, 2, 3, 6) + circle(0, 0, 0.5), code)));
     const double f = mmPerUnit;
-    QVERIFY2(near(path.boundingRect(), QRectF(-0.5 * f, -0.5 * f, 3.5 * f, 6.5 * f), 1e-9), describe(path.boundingRect()));
+    QVERIFY2(near(path.boundingRect(), QRectF(-0.5 * f, -0.5 * f, 3.5 * f, 6.5 * f), 1e-9),
+             describe(path.boundingRect()));
 }
 
 void TestImportItems::splineWithinTolerance_data()
@@ -191,8 +209,10 @@ void TestImportItems::splineWithinTolerance()
     const QVector<QPointF> c = {{0, 0}, {30, 80}, {70, -60}, {100, 20}};
     const QString s = spline(3, c, {0, 0, 0, 0, 1, 1, 1, 1});
     Jk_dxf reader(nullptr);
-    const QPainterPath path = reader.dxf_jie_xi(
-        put(insertScale == 1.0 ? file(s, units) : file(insert("S", 0, 0, insertScale, insertScale), units, block("S", 0, 0, s))));
+    const QPainterPath path =
+        reader.dxf_jie_xi(put(insertScale == 1.0 ? file(s, units)
+                                                 : file(insert("S", 0, 0, insertScale, insertScale),
+                                                        units, block("S", 0, 0, s))));
     QVERIFY2(reader.lastError().isEmpty(), qPrintable(reader.lastError()));
     const QVector<QPolygonF> polys = lineVertices(path);
     QCOMPARE(polys.size(), 1);
@@ -200,7 +220,8 @@ void TestImportItems::splineWithinTolerance()
     double worst = 0;
     for (int i = 0; i <= 4000; ++i) {
         const double t = i / 4000.0, u = 1 - t;
-        const QPointF p = (u * u * u * c[0] + 3 * u * u * t * c[1] + 3 * u * t * t * c[2] + t * t * t * c[3]) * f;
+        const QPointF p =
+            (u * u * u * c[0] + 3 * u * u * t * c[1] + 3 * u * t * t * c[2] + t * t * t * c[3]) * f;
         worst = std::max(worst, distanceToPolyline(p, polys[0]));
     }
     QVERIFY2(worst <= Jk_dxf::kSplineToleranceMm + 1e-9, qPrintable(QString::number(worst)));
@@ -214,8 +235,8 @@ void TestImportItems::rationalSplineIsACircle()
     // A rational quadratic with weights 1, sqrt(2)/2, 1 is exactly a quarter circle.
     for (double r : {1.0, 500.0}) {
         Jk_dxf reader(nullptr);
-        const QVector<QPolygonF> polys = lineVertices(
-            reader.dxf_jie_xi(put(file(spline(2, {{r, 0}, {r, r}, {0, r}}, {0, 0, 0, 1, 1, 1}, {1, std::sqrt(0.5), 1})))));
+        const QVector<QPolygonF> polys = lineVertices(reader.dxf_jie_xi(put(file(
+            spline(2, {{r, 0}, {r, r}, {0, r}}, {0, 0, 0, 1, 1, 1}, {1, std::sqrt(0.5), 1})))));
         QCOMPARE(polys.size(), 1);
         const QPolygonF &poly = polys[0];
         QVERIFY(poly.size() >= 3);
@@ -224,7 +245,8 @@ void TestImportItems::rationalSplineIsACircle()
             if (i > 0) {
                 const double half = QLineF(poly[i - 1], poly[i]).length() / 2;
                 const double sag = r - std::sqrt(r * r - half * half);
-                QVERIFY2(sag <= Jk_dxf::kSplineToleranceMm + 1e-9, qPrintable(QString::number(sag)));
+                QVERIFY2(sag <= Jk_dxf::kSplineToleranceMm + 1e-9,
+                         qPrintable(QString::number(sag)));
             }
         }
     }
@@ -247,7 +269,9 @@ void TestImportItems::fitPointSplinePassesThroughItsPoints()
 void TestImportItems::selfInsertingBlockEnds()
 {
     // A block that inserts itself twice: expansion stops at the nesting limit.
-    const QString loop = block("LOOP", 0, 0, line(0, 0, 1, 0) + insert("LOOP", 1, 0, 0.5, 0.5) + insert("LOOP", 0, 1, 0.5, 0.5));
+    const QString loop =
+        block("LOOP", 0, 0,
+              line(0, 0, 1, 0) + insert("LOOP", 1, 0, 0.5, 0.5) + insert("LOOP", 0, 1, 0.5, 0.5));
     Jk_dxf reader(nullptr);
     const QPainterPath path = reader.dxf_jie_xi(put(file(insert("LOOP", 0, 0), 4, loop)));
     QVERIFY(!path.isEmpty());
@@ -273,14 +297,16 @@ void TestImportItems::svgFileBecomesCentredItems()
     programState().width = width;
     programState().height = height;
     programState().currentLayer = 7;
-    const QList<Jk_tu_yuan *> items =
-        importSvgItems(QStringLiteral(LUMITRA_TEST_DATA_DIR "/import/svg/mm_viewbox_layers.svg"), nullptr);
+    const QList<Jk_tu_yuan *> items = importSvgItems(
+        QStringLiteral(LUMITRA_TEST_DATA_DIR "/import/svg/mm_viewbox_layers.svg"), nullptr);
     QCOMPARE(items.size(), 4);
     const QPointF shift = topLeft - QPointF(10, 10);
-    const QList<QRectF> inFile = {{30, 95, 50, 25}, {10, 10, 100, 50}, {60, 70, 20, 40}, {110, 150, 40, 40}};
+    const QList<QRectF> inFile = {
+        {30, 95, 50, 25}, {10, 10, 100, 50}, {60, 70, 20, 40}, {110, 150, 40, 40}};
     for (int i = 0; i < items.size(); ++i) {
         QVERIFY2(near(sceneBox(items[i]), inFile[i].translated(shift), 0.01),
-                 describe(sceneBox(items[i])) + " expected " + describe(inFile[i].translated(shift)));
+                 describe(sceneBox(items[i])) + " expected "
+                     + describe(inFile[i].translated(shift)));
         QCOMPARE(items[i]->layer_id, 7);
         QVERIFY(!items[i]->is_bitmap);
         QVERIFY(items[i]->isSelected());
@@ -292,10 +318,13 @@ void TestImportItems::dxfItemIsMirrored_data()
 {
     QTest::addColumn<QRectF>("drawing");
     QTest::addColumn<QRectF>("scene");
-    QTest::newRow("on the work area: drawing y up is scene y negative") << QRectF(10, 20, 40, 40) << QRectF(10, -60, 40, 40);
+    QTest::newRow("on the work area: drawing y up is scene y negative")
+        << QRectF(10, 20, 40, 40) << QRectF(10, -60, 40, 40);
     QTest::newRow("touching the origin") << QRectF(0, 0, 400, 400) << QRectF(0, -400, 400, 400);
-    QTest::newRow("off the work area: centred") << QRectF(1000, 2000, 100, 50) << QRectF(150, -225, 100, 50);
-    QTest::newRow("below the drawing origin: centred") << QRectF(10, -30, 20, 20) << QRectF(190, -210, 20, 20);
+    QTest::newRow("off the work area: centred")
+        << QRectF(1000, 2000, 100, 50) << QRectF(150, -225, 100, 50);
+    QTest::newRow("below the drawing origin: centred")
+        << QRectF(10, -30, 20, 20) << QRectF(190, -210, 20, 20);
 }
 
 void TestImportItems::dxfItemIsMirrored()
@@ -310,14 +339,16 @@ void TestImportItems::dxfItemIsMirrored()
     QCOMPARE(item->path, outline); // the flip lives in the transform, not the path
     QVERIFY2(near(sceneBox(item), scene, 1e-4), describe(sceneBox(item)));
     // The end that is higher in the drawing is higher on the screen (smaller scene y).
-    QVERIFY(item->sceneTransform().map(drawing.bottomRight()).y() < item->sceneTransform().map(drawing.topLeft()).y());
+    QVERIFY(item->sceneTransform().map(drawing.bottomRight()).y()
+            < item->sceneTransform().map(drawing.topLeft()).y());
     delete item;
 }
 
 void TestImportItems::dxfFileGoesThroughTheUndoableAdd()
 {
     QString message;
-    const QList<Jk_tu_yuan *> items = importDxfItems(put(file(line(0, 0, 2, 1) + circle(1, 1, 0.5), 5)), &message); // cm
+    const QList<Jk_tu_yuan *> items =
+        importDxfItems(put(file(line(0, 0, 2, 1) + circle(1, 1, 0.5), 5)), &message); // cm
     QCOMPARE(items.size(), 1);
     QVERIFY(message.isEmpty());
     QVERIFY2(near(sceneBox(items[0]), QRectF(0, -15, 20, 15), 1e-6), describe(sceneBox(items[0])));
@@ -334,7 +365,8 @@ void TestImportItems::dxfFileGoesThroughTheUndoableAdd()
 
 void TestImportItems::dxfFailuresCarryAMessage()
 {
-    for (const QString &path : {put(file(point(1, 1) + point(3, 4))), m_dir.filePath(QStringLiteral("missing.dxf"))}) {
+    for (const QString &path :
+         {put(file(point(1, 1) + point(3, 4))), m_dir.filePath(QStringLiteral("missing.dxf"))}) {
         QString message;
         QVERIFY(importDxfItems(path, &message).isEmpty());
         QVERIFY(!message.isEmpty());
@@ -367,8 +399,10 @@ void TestImportItems::tracedItemLiesOverTheBitmap()
     QCOMPARE(traced->layer_id, 3);
     QCOMPARE(traced->pos(), QPointF(0, 0));
     const double px = Jk_tu_yuan::kPixelMm;
-    const QRectF expected = bitmap.sceneTransform().mapRect(QRectF(10 * px, 20 * px, 20 * px, 30 * px));
-    QVERIFY2(near(sceneBox(traced), expected, 1e-6), describe(sceneBox(traced)) + " expected " + describe(expected));
+    const QRectF expected =
+        bitmap.sceneTransform().mapRect(QRectF(10 * px, 20 * px, 20 * px, 30 * px));
+    QVERIFY2(near(sceneBox(traced), expected, 1e-6),
+             describe(sceneBox(traced)) + " expected " + describe(expected));
     delete traced;
 }
 

@@ -62,11 +62,15 @@ void TestMoShiYuLan::fitToLabel_data()
     QTest::addColumn<QRect>("drawn");
 
     QTest::newRow("small, centred") << QSize(50, 30) << QSize(100, 100) << QRect(25, 35, 50, 30);
-    QTest::newRow("odd margins round down") << QSize(51, 31) << QSize(100, 100) << QRect(24, 34, 51, 31);
-    QTest::newRow("wide: width fills") << QSize(400, 100) << QSize(200, 200) << QRect(0, 75, 200, 50);
-    QTest::newRow("tall: height fills") << QSize(100, 400) << QSize(200, 100) << QRect(87, 0, 25, 100);
+    QTest::newRow("odd margins round down")
+        << QSize(51, 31) << QSize(100, 100) << QRect(24, 34, 51, 31);
+    QTest::newRow("wide: width fills")
+        << QSize(400, 100) << QSize(200, 200) << QRect(0, 75, 200, 50);
+    QTest::newRow("tall: height fills")
+        << QSize(100, 400) << QSize(200, 100) << QRect(87, 0, 25, 100);
     QTest::newRow("height rounded") << QSize(300, 200) << QSize(100, 100) << QRect(0, 16, 100, 67);
-    QTest::newRow("only one side too large") << QSize(150, 50) << QSize(100, 100) << QRect(0, 33, 100, 33);
+    QTest::newRow("only one side too large")
+        << QSize(150, 50) << QSize(100, 100) << QRect(0, 33, 100, 33);
 }
 
 void TestMoShiYuLan::fitToLabel()
@@ -109,7 +113,8 @@ void TestMoShiYuLan::labelsShowEachMode()
         return MoShiYuLan::fitToLabel(QPixmap::fromImage(img), w, h).toImage();
     };
     QCOMPARE(oldLab->pixmap(Qt::ReturnByValue).toImage(), fitted(original));
-    QCOMPARE(newLab->pixmap(Qt::ReturnByValue).toImage(), fitted(lumitra::applyImageMode(original, 0)));
+    QCOMPARE(newLab->pixmap(Qt::ReturnByValue).toImage(),
+             fitted(lumitra::applyImageMode(original, 0)));
     for (int mode = 4; mode >= 0; --mode) {
         combo->setCurrentIndex(mode);
         QCOMPARE(newLab->pixmap(Qt::ReturnByValue).toImage(),
