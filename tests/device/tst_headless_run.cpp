@@ -2,6 +2,7 @@
 #include "link_fixture.h"
 #include "program_state.h"
 
+#include <QProcess>
 #include <QTextStream>
 #include <QTimer>
 
@@ -21,6 +22,8 @@ private slots:
     void lostPort();
     void silentController();
     void badInputs();
+    void throughTheExecutable_data();
+    void throughTheExecutable();
 };
 
 struct Outcome
@@ -159,6 +162,53 @@ void TestHeadlessRun::badInputs()
     r = run("/dev/lumitra-no-such-port", writeJobFile(dir, 3), false);
     QCOMPARE(r.code, int(HeadlessNoPort));
     QVERIFY(r.err.startsWith("cannot open the port"));
+}
+
+void TestHeadlessRun::throughTheExecutable_data()
+{
+    QTest::addColumn<bool>("alarm");
+    QTest::addColumn<int>("exitCode");
+    QTest::newRow("job done") << false << int(HeadlessDone);
+    QTest::newRow("alarm") << true << int(HeadlessMachineFault);
+}
+
+// `lumitra --port ... --run ...` is the same sender, reached through the
+// command line of the one executable.
+void TestHeadlessRun::throughTheExecutable()
+{
+    QFETCH(bool, alarm);
+    QFETCH(int, exitCode);
+    QTemporaryDir dir;
+    const int total = 200;
+    const QString file = writeJobFile(dir, total);
+    GrblFake fake;
+    if (alarm)
+        fake.alarmAtLine(50, 1);
+    QVERIFY(fake.start());
+
+    QProcess app;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("XDG_DATA_HOME"), dir.filePath(QStringLiteral("data")));
+    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.path());
+    env.remove(QStringLiteral("DISPLAY"));
+    app.setProcessEnvironment(env);
+    app.start(QStringLiteral(LUMITRA_EXE),
+              {QStringLiteral("--port"), fake.portName(), QStringLiteral("--run"), file});
+    QVERIFY(app.waitForStarted());
+    // The fake answers from this process's event loop, so wait without blocking it.
+    QTRY_COMPARE_WITH_TIMEOUT(app.state(), QProcess::NotRunning, 30000);
+    QCOMPARE(app.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(app.exitCode(), exitCode);
+    QVERIFY(!fake.overrun());
+    const QString out = QString::fromUtf8(app.readAllStandardOutput());
+    if (alarm) {
+        QVERIFY(!out.contains(QStringLiteral("done")));
+        QVERIFY(fake.lineCount() < total + 1);
+    } else {
+        QVERIFY2(out.endsWith(QStringLiteral("done\n")), qPrintable(out));
+        QCOMPARE(fake.lines().size(), total + 1); // "$i" and every job line
+        QCOMPARE(fake.lines().last(), jobLine(total - 1));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestHeadlessRun)
