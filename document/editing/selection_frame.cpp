@@ -60,12 +60,15 @@ SelectionFrame::SelectionFrame()
 
 void SelectionFrame::setFrame(const QRectF &rect)
 {
+    // The scene indexes items by their bounding rectangle: it must hear of
+    // every change of it, hiding included, or it keeps the frame filed under
+    // the old one and later paints a frame that has since been deleted.
+    prepareGeometryChange();
     if (rect.isNull()) {
         setVisible(false);
         m_frame = QRectF();
         return;
     }
-    prepareGeometryChange();
     m_frame = rect;
     for (int i = 0; i < 8; ++i)
         m_handles[i]->setPos(handlePosition(rect, kHandles[i], 0));
