@@ -15,6 +15,8 @@
 #include <QUndoGroup>
 #include <QUndoStack>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
 struct DesignPages::Page
 {
@@ -274,7 +276,11 @@ void DesignPages::applyProject(ProjectReadResult &result)
             else
                 layers.append(new TuCeng(l));
         }
-        const QList<Jk_tu_yuan *> items = page.items;
+        // The file lists a page's items topmost first; added bottom first they
+        // stack as they were saved, and the job burns them in the same order.
+        QList<Jk_tu_yuan *> items;
+        items.reserve(page.items.size());
+        std::copy(page.items.crbegin(), page.items.crend(), std::back_inserter(items));
         page.items.clear();
         currentScene()->addItemsUndoable(items);
         rebuildLayerList(currentScene()); // also when the page got no items

@@ -2,13 +2,27 @@
 // ran into, driven through the real Widget with mouse and key events.
 #include "window_driver.h"
 
+#include "gcode_job_controller.h"
+#include "layer_panel_controller.h"
 #include "program_state.h"
+#include "project_commands.h"
 #include "settings_store.h"
 
 #include <QDir>
+#include <QTemporaryDir>
 
 using namespace lumitra;
 using namespace window_test;
+
+namespace {
+QByteArray jobBytes(Widget &w, const QString &path)
+{
+    if (!w.jobController()->saveGcodeTo(w.pages()->currentScene()->designItems(), path))
+        return QByteArray();
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+} // namespace
 
 class TestWindowTrust : public QObject
 {
@@ -52,6 +66,43 @@ private slots:
         }
         d.clickTab(0);
         QCOMPARE(d.scene()->designItemCount(), 1);
+    }
+
+    // Saving and reopening used to reverse the stacking order, and with it
+    // the order in which a layer's items burn (inner cuts after outer ones).
+    void projectRoundTripKeepsTheJob()
+    {
+        QTemporaryDir dir;
+        const QString project = dir.filePath(QStringLiteral("three.lumitra"));
+        QByteArray before;
+        QList<QRectF> stackBefore;
+        {
+            Widget w;
+            w.resize(1280, 720);
+            w.show();
+            Driver d(&w);
+            d.drawRectangle(QPointF(20, -20), QPointF(120, -120)); // outer
+            d.drawRectangle(QPointF(40, -40), QPointF(60, -60));   // inner
+            d.drawRectangle(QPointF(150, -30), QPointF(200, -80)); // beside, other layer
+            d.scene()->clearSelection();
+            d.scene()->designItems().first()->setSelected(true);
+            w.layerController()->moveSelectionToLayer(3);
+            QCOMPARE(d.scene()->designItemCount(), 3);
+            for (Jk_tu_yuan *item : d.scene()->designItems())
+                stackBefore << item->sceneBoundingRect();
+            before = jobBytes(w, dir.filePath(QStringLiteral("before.nc")));
+            QVERIFY(w.projectCommands()->saveProjectTo(project).ok);
+        }
+        Widget w;
+        Driver d(&w);
+        QCOMPARE(w.projectCommands()->open_file(project), ProjectCommands::OpenOutcome::Opened);
+        QList<QRectF> stackAfter;
+        for (Jk_tu_yuan *item : d.scene()->designItems())
+            stackAfter << item->sceneBoundingRect();
+        QCOMPARE(stackAfter, stackBefore);
+        const QByteArray after = jobBytes(w, dir.filePath(QStringLiteral("after.nc")));
+        QVERIFY(!before.isEmpty());
+        QCOMPARE(after, before);
     }
 };
 

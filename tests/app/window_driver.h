@@ -63,8 +63,8 @@ public:
     Jk_shi_tu *view() const { return pages()->currentView(); }
     Jk_chang_jing *scene() const { return pages()->currentScene(); }
 
-    void mouse(QEvent::Type type, const QPointF &at, Qt::MouseButton button,
-               Qt::MouseButtons held, Qt::KeyboardModifiers m = {})
+    void mouse(QEvent::Type type, const QPointF &at, Qt::MouseButton button, Qt::MouseButtons held,
+               Qt::KeyboardModifiers m = {})
     {
         QWidget *port = view()->viewport();
         const QPoint p = view()->mapFromScene(at);
