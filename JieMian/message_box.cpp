@@ -30,17 +30,30 @@ QMessageBox::Icon iconFor(MessageKind kind)
 int show_message(QWidget *parent, MessageKind kind, const QString &secondButton,
                  const QString &firstButton, const QString &message, const QString &title)
 {
-    const MessageRequest request{parent, kind, secondButton, firstButton, message, title};
+    return show_message(parent, kind, secondButton, firstButton, QString(), message, title);
+}
+
+int show_message(QWidget *parent, MessageKind kind, const QString &secondButton,
+                 const QString &firstButton, const QString &thirdButton, const QString &message,
+                 const QString &title)
+{
+    const MessageRequest request{parent,  kind,  secondButton, firstButton,
+                                 message, title, thirdButton};
     if (handler())
         return handler()(request);
 
     QMessageBox box(iconFor(kind), title, message, QMessageBox::NoButton, parent);
     QPushButton *first = box.addButton(firstButton, QMessageBox::AcceptRole);
+    QPushButton *third = nullptr;
+    if (!thirdButton.isEmpty())
+        third = box.addButton(thirdButton, QMessageBox::ActionRole);
     if (!secondButton.isEmpty())
         box.addButton(secondButton, QMessageBox::RejectRole);
     box.setDefaultButton(first);
     box.exec();
-    return box.clickedButton() == first ? 1 : 0;
+    if (box.clickedButton() == first)
+        return 1;
+    return third && box.clickedButton() == third ? 2 : 0;
 }
 
 int show_notice(QWidget *parent, const QString &message)

@@ -18,6 +18,7 @@ struct MessageRequest
     QString firstButton;
     QString message;
     QString title;
+    QString thirdButton; // empty: no third button
 };
 
 // The one message box of the application, for every question and refusal.
@@ -25,6 +26,12 @@ struct MessageRequest
 // pressed, 0 otherwise (second button, Escape or closing the box).
 int show_message(QWidget *parent, MessageKind kind, const QString &secondButton,
                  const QString &firstButton, const QString &message, const QString &title);
+
+// The same with a third button between the two (e.g. "保存" in the unsaved
+// question). Returns 1 for the first button, 2 for the third, 0 otherwise.
+int show_message(QWidget *parent, MessageKind kind, const QString &secondButton,
+                 const QString &firstButton, const QString &thirdButton, const QString &message,
+                 const QString &title);
 
 // The usual refusal: title "提示", one button "确定".
 int show_notice(QWidget *parent, const QString &message);

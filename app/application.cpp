@@ -74,6 +74,8 @@ int runWindow(QApplication &app, const CommandLine &cl)
     }
 
     Widget window;
+    QObject::connect(&window, &Widget::quitRequested, &app, &QCoreApplication::exit,
+                     Qt::QueuedConnection);
     window.setWindowIcon(icon);
     window.show();
     window.openFiles(cl.filesToOpen);

@@ -21,7 +21,10 @@
 #include "message_box.h"
 #include "program_state.h"
 #include "project_commands.h"
+#include "recent_files_menu.h"
+#include "rotation_field.h"
 #include "tu_ceng_zhi.h"
+#include "window_title.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -40,8 +43,15 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
 
     m_language = new LanguageController(this);
     ui->language_Btn->setMenu(m_language->menu());
-    connect(m_language, &LanguageController::quitRequested, qApp, &QCoreApplication::exit,
-            Qt::QueuedConnection);
+    // Quitting for a new language goes through the same unsaved-work guard
+    // as closing the window.
+    connect(
+        m_language, &LanguageController::quitRequested, this,
+        [this](int exitCode) {
+            if (confirmQuit())
+                emit quitRequested(exitCode);
+        },
+        Qt::QueuedConnection);
 
     setupDesign();
     setupEditing();
@@ -50,11 +60,30 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     setupJobs();
     setupMachine();
     buildFileMenu();
+
+    setUnsavedListener([this](bool) { updateTitle(); });
+    connect(m_project, &ProjectCommands::currentPathChanged, this, &Widget::updateTitle);
+    updateTitle();
 }
 
 Widget::~Widget()
 {
+    setUnsavedListener({});
     delete ui;
+}
+
+void Widget::updateTitle()
+{
+    const bool unsaved = programState().unsaved;
+    setWindowTitle(windowTitleFor(m_project->currentPath(), unsaved));
+    setWindowModified(unsaved);
+}
+
+bool Widget::confirmQuit()
+{
+    return close_guard(this, programState().unsaved, designItemCount(), [this] {
+        return m_project->save_project() == ProjectCommands::SaveOutcome::Saved;
+    });
 }
 
 void Widget::setupDesign()
@@ -90,10 +119,7 @@ void Widget::setupEditing()
     connect(align, &AlignPanel::alignRequested, m_edit, &EditController::align);
     connect(align, &AlignPanel::distributeRequested, m_edit, &EditController::distribute);
     connect(m_edit, &EditController::selectionTextChanged, ui->selection_Lab, &QLabel::setText);
-    connect(ui->rotate_Box, &QDoubleSpinBox::editingFinished, this, [this] {
-        if (ui->rotate_Box->value() != 0.0)
-            m_edit->rotateSelection(ui->rotate_Box->value());
-    });
+    new RotationField(ui->rotate_Box, m_edit, m_pages, this);
 }
 
 void Widget::setupLayers()
@@ -201,9 +227,16 @@ void Widget::buildFileMenu()
     QAction *open = menu->addAction(tr("打开"));
     open->setShortcut(QKeySequence::Open);
     connect(open, &QAction::triggered, m_project, &ProjectCommands::open_project);
+    auto *recent = new RecentFilesMenu(menu);
+    menu->addMenu(recent);
+    connect(recent, &RecentFilesMenu::openRequested, m_project, &ProjectCommands::open_file);
+    connect(m_project, &ProjectCommands::recentFilesChanged, recent, &RecentFilesMenu::refresh);
     QAction *save = menu->addAction(tr("保存"));
     save->setShortcut(QKeySequence::Save);
     connect(save, &QAction::triggered, m_project, &ProjectCommands::save_project);
+    QAction *saveAs = menu->addAction(tr("另存为"));
+    saveAs->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+    connect(saveAs, &QAction::triggered, m_project, &ProjectCommands::save_project_as);
     menu->addSeparator();
     QAction *preview = menu->addAction(tr("图像模式预览"));
     connect(preview, &QAction::triggered, this,
@@ -239,7 +272,7 @@ int Widget::designItemCount() const
 
 void Widget::closeEvent(QCloseEvent *event)
 {
-    if (!close_guard(this, programState().unsaved, designItemCount())) {
+    if (!confirmQuit()) {
         event->ignore();
         return;
     }

@@ -51,11 +51,22 @@ public:
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
 
+    // The unsaved-work guard of every quit path (closing the window, quitting
+    // for a new language): true when the application may quit.
+    bool confirmQuit();
+
+signals:
+    // The user chose to quit outside the close button (restart for a new
+    // language) and the unsaved-work guard let it go: the application quits
+    // with this code.
+    void quitRequested(int exitCode);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildFileMenu();
+    void updateTitle();
     void setupDesign();
     void setupLayers();
     void setupImport();

@@ -39,7 +39,7 @@ void DesignCommand::undo()
 
 void DesignCommand::changed()
 {
-    lumitra::programState().unsaved = true;
+    lumitra::setUnsaved(true);
     if (m_scene)
         m_scene->notifyDesignChanged();
 }

@@ -191,7 +191,7 @@ bool DesignPages::closePage(int index)
     m_pages.removeOne(p);
     delete p;
     if (hadItems)
-        lumitra::programState().unsaved = true;
+        lumitra::setUnsaved(true);
     emit pagesChanged();
     return true;
 }

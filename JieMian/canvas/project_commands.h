@@ -4,14 +4,19 @@
 
 #include <QObject>
 #include <functional>
+#include <optional>
 
 class DesignPages;
 class QWidget;
 
-// The window's project commands: save, open (with their file dialogs and
-// refusals) and the open dispatch for one path, which files dropped on the
-// canvas also go through (the window connects DesignPages::filesDropped to
-// open_files). Messages go through the message-box helper.
+// The window's project commands: save, save as, open (with their file dialogs
+// and refusals) and the open dispatch for one path, which files dropped on the
+// canvas and the recent-files menu also go through (the window connects
+// DesignPages::filesDropped to open_files). The project file the design was
+// last saved to or opened from is remembered, so "save" writes there without
+// asking. Every outcome the user did not choose (a file that does not open,
+// an importer that refuses, a damaged project, a failed save) is told through
+// the message-box helper.
 class ProjectCommands : public QObject
 {
     Q_OBJECT
@@ -40,12 +45,21 @@ public:
     // Texts shown for the save refusals.
     static QString refusalMessage(SaveRefusal refusal);
 
-    // Writes the project to `path` (no questions) and clears the unsaved flag.
+    // Writes the project to `path` (no questions), clears the unsaved flag and
+    // makes `path` the design's file.
     ProjectSaveResult saveProjectTo(const QString &path);
 
+    // The project file of the design ("" until it is saved or opened).
+    QString currentPath() const { return m_currentPath; }
+    // Forgets the design's file (a new, empty design).
+    void setCurrentPath(const QString &path);
+
 public slots:
-    // The "save" command: refusals, the save dialog, writing.
+    // The "save" command: refusals, then the design's file, or the save
+    // dialog when it has none yet.
     SaveOutcome save_project();
+    // The "save as" command: refusals, the save dialog, writing.
+    SaveOutcome save_project_as();
     // The "open" command: refusal while engraving, the open dialog, open_file.
     OpenOutcome open_project();
     // Opens one file by its extension onto the current page.
@@ -53,12 +67,22 @@ public slots:
     // Opens each file in turn (drag and drop).
     void open_files(const QStringList &paths);
 
+signals:
+    void currentPathChanged(const QString &path);
+    // A file joined or left the recent-files list.
+    void recentFilesChanged();
+
 private:
     bool refuseWhileEngraving();
+    // The save refusals (engraving, empty design), told to the user.
+    std::optional<SaveOutcome> refuseSave();
     OpenOutcome openProjectFile(const QString &path);
+    OpenOutcome opened(const QString &path, OpenOutcome outcome);
+    SaveOutcome writeProject(const QString &path);
 
     DesignPages *m_pages;
     QWidget *m_dialogParent;
     PathAsker m_askSavePath;
     PathAsker m_askOpenPath;
+    QString m_currentPath;
 };

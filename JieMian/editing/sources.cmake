@@ -10,5 +10,6 @@ target_sources(lumitra_jiemian PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/array_dialog.ui
   ${CMAKE_CURRENT_LIST_DIR}/align_panel.cpp ${CMAKE_CURRENT_LIST_DIR}/align_panel.h
   ${CMAKE_CURRENT_LIST_DIR}/align_panel.ui
-  ${CMAKE_CURRENT_LIST_DIR}/edit_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/edit_controller.h)
+  ${CMAKE_CURRENT_LIST_DIR}/edit_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/edit_controller.h
+  ${CMAKE_CURRENT_LIST_DIR}/rotation_field.cpp ${CMAKE_CURRENT_LIST_DIR}/rotation_field.h)
 target_include_directories(lumitra_jiemian PUBLIC ${CMAKE_CURRENT_LIST_DIR})

@@ -19,12 +19,13 @@ public:
     explicit ImportActions(QWidget *window);
 
     // Opens a mode preview of the selected bitmap item's image when exactly one item is
-    // selected and it is a bitmap item; otherwise does nothing and returns nullptr. The
-    // dialog deletes itself when closed.
+    // selected and it is a bitmap item; otherwise says so ("请先选择一张位图!") and returns
+    // nullptr. The dialog deletes itself when closed.
     MoShiYuLan *openModePreview(const QList<QGraphicsItem *> &selected);
 
     // Traces the selected bitmap item (same selection rule) and announces the new vector
-    // item through itemsCreated. False when there was nothing to trace or tracing failed.
+    // item through itemsCreated. False, with a message, when there was nothing to trace or
+    // tracing found no outline.
     bool traceSelection(const QList<QGraphicsItem *> &selected);
 
 signals:
@@ -32,5 +33,7 @@ signals:
     void itemsCreated(const QList<Jk_tu_yuan *> &items);
 
 private:
+    const Jk_tu_yuan *bitmapOrSay(const QList<QGraphicsItem *> &selected) const;
+
     QWidget *m_window;
 };

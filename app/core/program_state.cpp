@@ -8,13 +8,35 @@ ProgramState &programState()
     return state;
 }
 
+namespace {
+std::function<void(bool)> &unsavedListener()
+{
+    static std::function<void(bool)> listener;
+    return listener;
+}
+} // namespace
+
+void setUnsaved(bool unsaved)
+{
+    ProgramState &s = programState();
+    const bool changed = s.unsaved != unsaved;
+    s.unsaved = unsaved;
+    if (changed && unsavedListener())
+        unsavedListener()(unsaved);
+}
+
+void setUnsavedListener(std::function<void(bool)> listener)
+{
+    unsavedListener() = std::move(listener);
+}
+
 void resetProgramState()
 {
     ProgramState &s = programState();
     s.width = 400;
     s.height = 400;
     s.currentLayer = 0;
-    s.unsaved = false;
+    setUnsaved(false);
     s.connectionMode = NotConnected;
     s.modelFlag = false;
     s.running = false;

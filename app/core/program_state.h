@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <atomic>
+#include <functional>
 
 namespace lumitra {
 
@@ -22,6 +23,13 @@ struct ProgramState
 };
 
 ProgramState &programState();
+
+// Sets the unsaved flag and tells the listener (the window's title) when it
+// changes. Every write of the flag goes through here.
+void setUnsaved(bool unsaved);
+// One listener, called on the GUI thread with the new value; an empty
+// function removes it.
+void setUnsavedListener(std::function<void(bool)> listener);
 
 // Puts every field back to its start value (used by tests and by a new session).
 void resetProgramState();

@@ -90,7 +90,7 @@ void GeometryCommand::undo()
 
 void GeometryCommand::finished()
 {
-    programState().unsaved = true;
+    setUnsaved(true);
 }
 
 bool GeometryCommand::mergeWith(const QUndoCommand *other)

@@ -109,27 +109,40 @@ private slots:
         QTest::addColumn<bool>("unsaved");
         QTest::addColumn<int>("items");
         QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("saveSucceeds");
         QTest::addColumn<bool>("asks");
+        QTest::addColumn<int>("saves");
         QTest::addColumn<bool>("quits");
-        QTest::newRow("saved, items") << false << 3 << 0 << false << true;
-        QTest::newRow("unsaved, no items") << true << 0 << 0 << false << true;
-        QTest::newRow("unsaved, items, confirm") << true << 2 << 1 << true << true;
-        QTest::newRow("unsaved, items, cancel") << true << 2 << 0 << true << false;
+        QTest::newRow("saved, items") << false << 3 << 0 << true << false << 0 << true;
+        QTest::newRow("unsaved, no items") << true << 0 << 0 << true << false << 0 << true;
+        QTest::newRow("unsaved, items, confirm") << true << 2 << 1 << true << true << 0 << true;
+        QTest::newRow("unsaved, items, cancel") << true << 2 << 0 << true << true << 0 << false;
+        QTest::newRow("save, then quit") << true << 2 << 2 << true << true << 1 << true;
+        QTest::newRow("save cancelled or failed") << true << 2 << 2 << false << true << 1 << false;
     }
     void closeGuard()
     {
         QFETCH(bool, unsaved);
         QFETCH(int, items);
         QFETCH(int, answer);
+        QFETCH(bool, saveSucceeds);
         QFETCH(bool, asks);
+        QFETCH(int, saves);
         QFETCH(bool, quits);
         m_answer = answer;
-        QCOMPARE(close_guard(nullptr, unsaved, items), quits);
+        int saved = 0;
+        const auto save = [&] {
+            ++saved;
+            return saveSucceeds;
+        };
+        QCOMPARE(close_guard(nullptr, unsaved, items, save), quits);
+        QCOMPARE(saved, saves);
         QCOMPARE(m_asked.size(), asks ? 1 : 0);
         if (asks) {
             QCOMPARE(m_asked.first().message, QStringLiteral("创作未保存,是否立即退出"));
             QCOMPARE(m_asked.first().firstButton, QStringLiteral("确定"));
             QCOMPARE(m_asked.first().secondButton, QStringLiteral("取消"));
+            QCOMPARE(m_asked.first().thirdButton, QStringLiteral("保存"));
         }
     }
 

@@ -194,14 +194,19 @@ private slots:
         ProjectCommands commands(&pages, nullptr);
         pages.currentScene()->addItemsUndoable({new Jk_tu_yuan(0)});
         QVERIFY(programState().unsaved);
-        // Cancelled or failed: nothing changes and nothing is said.
+        // Cancelled: nothing changes and nothing is said. Failed: nothing
+        // changes, and the user hears why.
         commands.setSavePathAsker(asker(QString()));
         QCOMPARE(commands.save_project(), Save::Cancelled);
+        QVERIFY(m_messages.isEmpty());
         commands.setSavePathAsker(
             asker(m_dir.filePath(QStringLiteral("no/such/folder/x.lumitra"))));
         QCOMPARE(commands.save_project(), Save::Failed);
         QVERIFY(programState().unsaved);
-        QVERIFY(m_messages.isEmpty());
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY(m_messages.first().contains(QStringLiteral("x.lumitra")));
+        QVERIFY(commands.currentPath().isEmpty());
+        m_messages.clear();
 
         QStringList asked;
         commands.setSavePathAsker(asker(m_dir.filePath(QStringLiteral("plain")), &asked));
@@ -276,7 +281,12 @@ private slots:
         ProjectCommands commands(&pages, nullptr);
         QCOMPARE(commands.open_file(file), Open::Damaged);
         QCOMPARE(pages.totalItemCount(), 2);
-        QVERIFY(m_messages.isEmpty());
+        // The user is told that part of the file could not be read, and the
+        // design counts as unsaved: what was lost is not on disk either.
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY(m_messages.first().contains(QStringLiteral("cut.lumitra")));
+        QVERIFY(programState().unsaved);
+        QVERIFY(commands.currentPath().isEmpty());
     }
 
     void openRefusedWhileEngraving()
@@ -359,6 +369,8 @@ private slots:
             << "huge.png" << pngbytes::lyingPng(30000, 30000) << true << int(Open::Failed);
         QTest::newRow("missing project")
             << "missing.lumitra" << QByteArray() << false << int(Open::Failed);
+        QTest::newRow("garbage project")
+            << "garbage.lumitra" << QByteArray(300, 'x') << false << int(Open::Failed);
         QTest::newRow("text file")
             << "notes.txt" << QByteArray("x") << false << int(Open::Unsupported);
     }
@@ -381,9 +393,13 @@ private slots:
         }
         DesignPages pages;
         ProjectCommands commands(&pages, nullptr);
+        m_messages.clear();
         QCOMPARE(int(commands.open_file(file)), outcome);
         QCOMPARE(pages.totalItemCount(), 0);
         QCOMPARE(pages.currentUndoStack()->count(), 0);
+        // Every file that gives nothing says so, once.
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.first().contains(name) || message, qPrintable(m_messages.first()));
     }
 
     void registeredImporterIsUsed()
@@ -391,6 +407,10 @@ private slots:
         DesignPages pages;
         ProjectCommands commands(&pages, nullptr);
         QStringList asked;
+        for (const char *name : {"d.Svg", "a.svg"}) {
+            QFile f(m_dir.filePath(QString::fromLatin1(name)));
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        }
         commands.setOpenPathAsker(asker(m_dir.filePath(QStringLiteral("d.Svg")), &asked));
         OpenDispatch &dispatch = OpenDispatch::instance();
         QStringList seen;
@@ -423,7 +443,7 @@ private slots:
             *message = QStringLiteral("too big");
             return QList<Jk_tu_yuan *>();
         });
-        QCOMPARE(commands.open_file(QStringLiteral("/x/a.svg")), Open::Failed);
+        QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("a.svg"))), Open::Failed);
         QCOMPARE(m_messages, QStringList{QStringLiteral("too big")});
 
         dispatch.unregisterImporter(QStringLiteral("svg"));

@@ -5,6 +5,7 @@
 #include "import_actions.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
+#include "message_box.h"
 #include "moshiyulan.h"
 
 #include <QComboBox>
@@ -44,8 +45,19 @@ class TestMoShiYuLan : public QObject
 {
     Q_OBJECT
 
+    QStringList m_messages;
+
 private slots:
-    void initTestCase() { qRegisterMetaType<QList<Jk_tu_yuan *>>(); }
+    void initTestCase()
+    {
+        qRegisterMetaType<QList<Jk_tu_yuan *>>();
+        lumitra::set_message_handler([this](const lumitra::MessageRequest &r) {
+            m_messages << r.message;
+            return 1;
+        });
+    }
+    void init() { m_messages.clear(); }
+    void cleanupTestCase() { lumitra::set_message_handler({}); }
     void fitToLabel_data();
     void fitToLabel();
     void fitToLabelDegenerate();
@@ -153,6 +165,8 @@ void TestMoShiYuLan::previewOpensOnlyForOneBitmap()
         selected << new Jk_tu_yuan(1);
     MoShiYuLan *dialog = actions.openModePreview(selected);
     QCOMPARE(dialog != nullptr, opens);
+    // Without exactly one bitmap the user is told what to select.
+    QCOMPARE(m_messages, opens ? QStringList() : QStringList{QStringLiteral("请先选择一张位图!")});
     if (dialog) {
         QCOMPARE(dialog->parentWidget(), &window);
         QVERIFY(dialog->isVisible());
@@ -174,6 +188,16 @@ void TestMoShiYuLan::traceSelectionAnnouncesTheItem()
     Jk_tu_yuan vector(0);
     QVERIFY(!actions.traceSelection({&vector}));
     QCOMPARE(spy.count(), 0);
+    QCOMPARE(m_messages, QStringList{QStringLiteral("请先选择一张位图!")});
+    QVERIFY(!actions.traceSelection({}));
+    QCOMPARE(m_messages.size(), 2);
+    // A blank bitmap has nothing to trace, and says so.
+    QImage blank(20, 20, QImage::Format_ARGB32);
+    blank.fill(Qt::white);
+    Jk_tu_yuan empty(blank);
+    QVERIFY(!actions.traceSelection({&empty}));
+    QCOMPARE(m_messages.last(), QStringLiteral("位图中没有可描摹的轮廓!"));
+    m_messages.clear();
     QVERIFY(actions.traceSelection({&bitmap}));
     QCOMPARE(spy.count(), 1);
     const auto items = spy.takeFirst().at(0).value<QList<Jk_tu_yuan *>>();
@@ -186,6 +210,7 @@ void TestMoShiYuLan::traceSelectionAnnouncesTheItem()
     connect(&actions, &ImportActions::itemsCreated, &scene, &Jk_chang_jing::addItemsUndoable);
     QVERIFY(actions.traceSelection({&bitmap}));
     QCOMPARE(scene.designItemCount(), 1);
+    QVERIFY(m_messages.isEmpty());
     QVERIFY(!scene.designItems().first()->is_bitmap);
 }
 
