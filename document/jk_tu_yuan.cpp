@@ -1,5 +1,7 @@
 #include "jk_tu_yuan.h"
 
+#include "path_parts.h"
+
 #include "jk_chang_jing.h"
 #include "layer_list.h"
 #include "program_state.h"
@@ -193,7 +195,8 @@ void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
                 return;
             }
             pen.setColor(layerColor(layer_id));
-            if (l->moshi > 0) {
+            // A fill layer fills what its job hatches: closed outlines.
+            if (l->moshi > 0 && closure() != Closure::AllOpen) {
                 painter->setBrush(QBrush(layerColor(layer_id)));
                 filled = true;
             }
@@ -207,10 +210,34 @@ void Jk_tu_yuan::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     if (std::max(box.width(), box.height()) * lod < kThinLinePixels)
         pen.setWidth(1);
     painter->setPen(pen);
-    if (!filled)
+    if (filled && closure() == Closure::Mixed) {
+        // Open subpaths cannot be filled: the job burns them as lines, so
+        // only the closed ones are painted filled.
+        painter->save();
+        painter->setPen(Qt::NoPen);
+        painter->drawPath(m_closedPart);
+        painter->restore();
+    }
+    if (!filled || closure() == Closure::Mixed)
         painter->setBrush(Qt::NoBrush);
     painter->drawPath(path);
     paintSelectionMark(painter);
+}
+
+Jk_tu_yuan::Closure Jk_tu_yuan::closure() const
+{
+    // Copies of a path share its data, so this compare is cheap while the
+    // outline is unchanged.
+    if (!m_closureKnown || !(m_closureOf == path)) {
+        m_closureOf = path;
+        lumitra::PathParts parts = lumitra::splitByClosure(path);
+        m_closure = parts.open.isEmpty()     ? Closure::AllClosed
+                    : parts.closed.isEmpty() ? Closure::AllOpen
+                                             : Closure::Mixed;
+        m_closedPart = m_closure == Closure::Mixed ? std::move(parts.closed) : QPainterPath();
+        m_closureKnown = true;
+    }
+    return m_closure;
 }
 
 void Jk_tu_yuan::paintSelectionMark(QPainter *painter) const

@@ -93,6 +93,15 @@ protected:
 private:
     // A thin dashed box around a selected item.
     void paintSelectionMark(QPainter *painter) const;
+    // How much of `path` a fill covers: its open subpaths are drawn as lines
+    // only, as the job burns them. Kept until `path` changes.
+    enum class Closure { AllClosed, Mixed, AllOpen };
+    Closure closure() const;
+
+    mutable QPainterPath m_closureOf;  // the outline the cached split belongs to
+    mutable QPainterPath m_closedPart; // its closed subpaths when Mixed
+    mutable Closure m_closure = Closure::AllClosed;
+    mutable bool m_closureKnown = false;
     void initCommon();
     void initBitmap(const QImage &source, const QImage &display);
 };

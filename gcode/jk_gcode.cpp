@@ -6,6 +6,7 @@
 #include "job_output.h"
 #include "layer_list.h"
 #include "path_emitter.h"
+#include "path_parts.h"
 #include "program_state.h"
 #include "settings_store.h"
 
@@ -141,8 +142,13 @@ void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, 
                 hatchOutline(outline, hatchSettingsOf(layer), emitter);
                 emitter.endPath();
             }
-            if (layer.moshi == LineMode || layer.moshi == CrossFillMode)
+            if (layer.moshi == LineMode || layer.moshi == CrossFillMode) {
                 emitter.emitPath(outline);
+            } else if (layer.moshi == FillMode && hasOpenSubpath(outline)) {
+                // A fill has nothing to hatch in an open outline: it is burnt
+                // as a line, as the canvas draws it, rather than left out.
+                emitter.emitPath(splitByClosure(outline).open);
+            }
         }
     }
 }

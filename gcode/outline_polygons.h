@@ -1,15 +1,13 @@
 // The closed subpaths of an outline as polygons, for area operations.
 #pragma once
 
+#include "path_parts.h"
+
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QVector>
 
 namespace lumitra {
-
-// Distance (mm) within which a subpath's last point counts as its first, so
-// that outlines read from files with rounded coordinates still close.
-constexpr double kClosingTolerance = 1e-3;
 
 // Every subpath of `path` whose end meets its start, flattened into a polygon
 // (curves split until no control point lies more than `tolerance` mm off the

@@ -2,9 +2,12 @@
 
 #include "gun_zhou.h"
 #include "jk_gcode.h"
+#include "jk_tu_yuan.h"
+#include "layer_list.h"
 #include "message_box.h"
 #include "program_state.h"
 #include "rotary.h"
+#include "work_area_check.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,6 +32,7 @@ GcodeJobController::GcodeJobController(QWidget *dialogParent, QObject *parent)
 
 void GcodeJobController::setLayerList(const LayerList *layers)
 {
+    m_layers = layers;
     m_generator->setLayerList(layers);
 }
 
@@ -37,8 +41,42 @@ void GcodeJobController::setFileChooser(FileChooser chooser)
     m_chooser = chooser ? std::move(chooser) : FileChooser(chooseWithDialog);
 }
 
+bool GcodeJobController::confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items)
+{
+    const QRectF area = currentWorkArea();
+    const QList<OutsideItem> outside =
+        itemsOutsideWorkArea(items, m_layers ? *m_layers : LayerList::instance(), area);
+    if (outside.isEmpty())
+        return true;
+    // Name each one by its layer and where it lies in machine coordinates
+    // (Y up), so the user can find it on the canvas.
+    constexpr int kListed = 8;
+    QStringList lines;
+    for (int i = 0; i < outside.size() && i < kListed; ++i) {
+        const QRectF &b = outside.at(i).bounds;
+        lines << tr("图层 %1: X %2..%3, Y %4..%5 mm")
+                     .arg(outside.at(i).layerName)
+                     .arg(b.left(), 0, 'f', 1)
+                     .arg(b.right(), 0, 'f', 1)
+                     .arg(-b.bottom(), 0, 'f', 1)
+                     .arg(-b.top(), 0, 'f', 1);
+    }
+    if (outside.size() > kListed)
+        lines << tr("……还有 %1 个").arg(outside.size() - kListed);
+    const QString message =
+        tr("%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:\n%4\n\n是否继续?")
+            .arg(outside.size())
+            .arg(area.width())
+            .arg(area.height())
+            .arg(lines.join(QLatin1Char('\n')));
+    return show_message(m_parent, MessageKind::Warning, tr("取消"), tr("继续"), message, tr("提示"))
+           != 0;
+}
+
 bool GcodeJobController::saveGcode(const QList<Jk_tu_yuan *> &items)
 {
+    if (!confirmOutsideWorkArea(items))
+        return false;
     QString path = m_chooser(m_parent, m_lastFolder);
     if (path.isEmpty())
         return false;
@@ -62,6 +100,8 @@ bool GcodeJobController::saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QSt
 
 bool GcodeJobController::prepareRun(const QList<Jk_tu_yuan *> &items)
 {
+    if (!confirmOutsideWorkArea(items))
+        return false;
     const RotarySettings rotary = loadRotarySettings();
     if (rotary.rewrites()) {
         const QString check = tr("请在滚轴界面检查相关参数再运行!");

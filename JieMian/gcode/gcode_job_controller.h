@@ -31,17 +31,21 @@ public:
     // Replaces the save dialog (tests).
     void setFileChooser(FileChooser chooser);
 
+    // Before a job is saved or run: when items would burn beyond the work
+    // area, names them in a question ("继续" / "取消"). True to go on.
+    bool confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items);
+
 public slots:
-    // "save G-code": asks for a ".nc" or ".gcode" file (".nc" is added when the
-    // name has neither) and writes the job there. False when cancelled or failed
+    // "save G-code": after the work-area question, asks for a ".nc" or ".gcode" file (".nc" is
+    // added when the name has neither) and writes the job there. False when cancelled or failed
     // (the user was told).
     bool saveGcode(const QList<Jk_tu_yuan *> &items);
     // Writes the job to `path`; tells the user and returns false on failure.
     bool saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QString &path);
-    // Before a run: with the rotary on, asks "请在滚轴界面检查相关参数再运行!"
-    // and stops unless confirmed (with unusable rotary settings it only says so
-    // and stops); then writes "code.txt" and makes it the job file of the
-    // program state. True when the job may be sent.
+    // Before a run: the work-area question; with the rotary on, asks
+    // "请在滚轴界面检查相关参数再运行!" and stops unless confirmed (with unusable rotary settings
+    // it only says so and stops); then writes "code.txt" and makes it the job file of the program
+    // state. True when the job may be sent.
     bool prepareRun(const QList<Jk_tu_yuan *> &items);
     // Opens the rotary dialog (modal); true when its settings were stored.
     bool editRotary();
@@ -57,4 +61,5 @@ private:
     Jk_gcode *m_generator;
     FileChooser m_chooser;
     QString m_lastFolder;
+    const LayerList *m_layers = nullptr; // the program-wide list when null
 };

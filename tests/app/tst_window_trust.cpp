@@ -4,14 +4,20 @@
 
 #include "gcode_job_controller.h"
 #include "import_actions.h"
+#include "importer_registry.h"
+#include "job_simulator.h"
 #include "language_controller.h"
+#include "layer_list.h"
 #include "layer_panel_controller.h"
+#include "path_parts.h"
 #include "program_state.h"
 #include "project_commands.h"
 #include "recent_files.h"
 #include "recent_files_menu.h"
 #include "settings_store.h"
+#include "tu_ceng.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QMenu>
@@ -30,6 +36,25 @@ QByteArray jobBytes(Widget &w, const QString &path)
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
+// The moves of a job that burn, machine coordinates.
+QList<JobSimulator::Move> burns(const QByteArray &job)
+{
+    QBuffer buffer;
+    buffer.setData(job);
+    buffer.open(QIODevice::ReadOnly);
+    QList<JobSimulator::Move> out;
+    JobSimulator sim;
+    sim.run(buffer, [&](const JobSimulator::Move &m) {
+        if (m.burning)
+            out << m;
+    });
+    return out;
+}
+
+bool hasOpenSubpathOf(const Jk_tu_yuan *item)
+{
+    return hasOpenSubpath(item->path);
+}
 } // namespace
 
 class TestWindowTrust : public QObject
@@ -39,6 +64,7 @@ class TestWindowTrust : public QObject
     Asked m_asked;
 
 private slots:
+    void initTestCase() { register_importers(); }
     void init()
     {
         QDir(config_dir()).removeRecursively();
@@ -268,6 +294,111 @@ private slots:
                 a->trigger();
         QCOMPARE(m_asked.messages(), (QStringList{QStringLiteral("请先选择一张位图!"),
                                                   QStringLiteral("请先选择一张位图!")}));
+    }
+
+    // Open shapes on a fill layer were painted filled and silently left out
+    // of the job: now they are drawn as outlines and burnt as lines.
+    void openShapesOnAFillLayerBurnAsTheyShow()
+    {
+        QTemporaryDir dir;
+        const QString svg = dir.filePath(QStringLiteral("open.svg"));
+        {
+            QFile f(svg);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            // A "U" 80 mm wide, open at the top, beside a closed square.
+            f.write("<svg xmlns='http://www.w3.org/2000/svg' width='200mm' height='100mm'"
+                    " viewBox='0 0 200 100'>"
+                    "<polyline points='10,10 10,90 90,90 90,10' fill='none' stroke='black'/>"
+                    "<rect x='120' y='10' width='60' height='60'/></svg>");
+        }
+        Widget w;
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        Driver d(&w);
+        QCOMPARE(w.projectCommands()->open_file(svg), ProjectCommands::OpenOutcome::Opened);
+        d.scene()->clearSelection();
+        const auto jobFor = [&](int mode, const char *name) {
+            TuCeng *layer = LayerList::instance().find(0, false);
+            layer->moshi = mode;
+            return jobBytes(w, dir.filePath(QString::fromLatin1(name)));
+        };
+        const QList<JobSimulator::Move> lineJob = burns(jobFor(LineMode, "line.nc"));
+        const QList<JobSimulator::Move> fillJob = burns(jobFor(FillMode, "fill.nc"));
+        Jk_tu_yuan *u = nullptr;
+        Jk_tu_yuan *square = nullptr;
+        for (Jk_tu_yuan *item : d.scene()->designItems())
+            (hasOpenSubpathOf(item) ? u : square) = item;
+        QVERIFY(u && square);
+        // Every stroke of the "U" that the line job burns, the fill job burns
+        // too: nothing of it is left out.
+        const QRectF uArea = u->sceneBoundingRect().adjusted(-0.5, -0.5, 0.5, 0.5);
+        int strokes = 0;
+        for (const JobSimulator::Move &m : lineJob) {
+            const QPointF mid = (m.from + m.to) / 2;
+            if (!uArea.contains(QPointF(mid.x(), -mid.y())))
+                continue;
+            ++strokes;
+            const bool alsoInFill =
+                std::any_of(fillJob.begin(), fillJob.end(), [&](const JobSimulator::Move &f) {
+                    return QLineF(f.from, m.from).length() < 0.01
+                           && QLineF(f.to, m.to).length() < 0.01;
+                });
+            QVERIFY(alsoInFill);
+        }
+        QCOMPARE(strokes, 3);
+
+        // On the canvas the inside of the "U" stays empty while the square is
+        // filled.
+        d.scene()->repaintItems();
+        const QImage shown = d.paintView();
+        const QColor fill = layerColor(0);
+        const auto at = [&](Jk_tu_yuan *item) {
+            return QColor(shown.pixel(d.view()->mapFromScene(item->sceneBoundingRect().center())));
+        };
+        QCOMPARE(at(square), fill);
+        QVERIFY(at(u) != fill);
+    }
+
+    // Items beyond the work area were cut off in the preview but sent to the
+    // machine: saving or running the job names them and asks first.
+    void itemsBeyondTheWorkAreaAreNamedFirst()
+    {
+        QTemporaryDir dir;
+        Widget w;
+        w.show();
+        Driver d(&w);
+        d.drawRectangle(QPointF(20, -20), QPointF(60, -60));
+        const QString inside = dir.filePath(QStringLiteral("inside.nc"));
+        w.jobController()->setFileChooser([&](QWidget *, const QString &) { return inside; });
+        QVERIFY(w.jobController()->saveGcode(d.scene()->designItems()));
+        QVERIFY(m_asked.requests.isEmpty());
+
+        Jk_tu_yuan *far = d.scene()->designItems().first();
+        far->moveBy(370, 0); // now 390..430 mm in X on a 400 mm machine
+        const QString beyond = dir.filePath(QStringLiteral("beyond.nc"));
+        w.jobController()->setFileChooser([&](QWidget *, const QString &) { return beyond; });
+        m_asked.answers = {0}; // cancel
+        QVERIFY(!w.jobController()->saveGcode(d.scene()->designItems()));
+        QVERIFY(!QFile::exists(beyond));
+        QCOMPARE(m_asked.requests.size(), 1);
+        const MessageRequest q = m_asked.requests.first();
+        QCOMPARE(q.firstButton, QStringLiteral("继续"));
+        QCOMPARE(q.secondButton, QStringLiteral("取消"));
+        QVERIFY2(q.message.contains(QStringLiteral("L0"))
+                     && q.message.contains(QStringLiteral("430.0")),
+                 qPrintable(q.message));
+
+        m_asked.answers = {1}; // continue
+        QVERIFY(w.jobController()->saveGcode(d.scene()->designItems()));
+        QVERIFY(QFile::exists(beyond));
+
+        // The run asks the same question before anything is generated.
+        m_asked.requests.clear();
+        m_asked.answers = {0};
+        QVERIFY(!w.jobController()->prepareRun(d.scene()->designItems()));
+        QCOMPARE(m_asked.requests.size(), 1);
+        QCOMPARE(m_asked.requests.first().message, q.message);
     }
 
     // Saving and reopening used to reverse the stacking order, and with it
