@@ -58,7 +58,7 @@ void LayerRowsPanel::measureProbeRows()
     }
 }
 
-QWidget *LayerRowsPanel::headerCell(int column) const
+QLabel *LayerRowsPanel::headerCell(int column) const
 {
     switch (column) {
     case TuCengItem2::SwatchColumn:
@@ -113,9 +113,10 @@ void LayerRowsPanel::layoutColumns()
     int height = m_rowHeight;
     for (int c = 0; c < TuCengItem2::ColumnCount; ++c) {
         const auto column = TuCengItem2::Column(c);
-        QWidget *cell = headerCell(c);
+        QLabel *cell = headerCell(c);
         cell->ensurePolished();
-        int width = qMax(m_probeWidth[c], cell->sizeHint().width() + kHeaderPadding);
+        const int title = cell->fontMetrics().horizontalAdvance(cell->text()) + kHeaderPadding;
+        int width = qMax(m_probeWidth[c], title);
         for (const TuCengItem2 *row : qAsConst(m_rows))
             width = qMax(width, row->naturalWidth(column));
         if (column == TuCengItem2::NameColumn)

@@ -55,7 +55,7 @@ signals:
 private:
     void measureProbeRows();
     void layoutColumns();
-    QWidget *headerCell(int column) const;
+    QLabel *headerCell(int column) const;
 
     Ui::LayerRowsPanel *ui;
     QButtonGroup *m_rowButtons;

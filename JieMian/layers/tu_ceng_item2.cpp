@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QToolButton>
 
 namespace {
@@ -155,6 +156,14 @@ int TuCengItem2::naturalWidth(Column column) const
     if (column == NameColumn) {
         const QFontMetrics fm(ui->mingcheng->font());
         width = qMax(width, fm.horizontalAdvance(m_layer->mingcheng) + kNamePadding);
+    } else if (column == DeleteColumn) {
+        // The text and the button's frame; some styles would widen every
+        // button with a text to 80 px, far more than the column needs.
+        const QStyle *s = w->style();
+        width = qMax(m_leastWidth[column],
+                     w->fontMetrics().horizontalAdvance(ui->delete_Btn->text())
+                         + 2 * s->pixelMetric(QStyle::PM_ButtonMargin, nullptr, w)
+                         + 2 * s->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, w));
     }
     return width;
 }
