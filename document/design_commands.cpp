@@ -25,15 +25,23 @@ DesignCommand::DesignCommand(Jk_chang_jing *scene, const QString &text)
 
 void DesignCommand::redo()
 {
-    if (m_scene)
+    if (m_scene) {
         apply();
+        const QList<Jk_tu_yuan *> items = m_scene->designItems();
+        m_orphanedByUndo.reinstate(items);
+        m_orphanedByRedo.capture(items);
+    }
     changed();
 }
 
 void DesignCommand::undo()
 {
-    if (m_scene)
+    if (m_scene) {
         revert();
+        const QList<Jk_tu_yuan *> items = m_scene->designItems();
+        m_orphanedByRedo.reinstate(items);
+        m_orphanedByUndo.capture(items);
+    }
     changed();
 }
 
@@ -75,8 +83,10 @@ void AddItemsCommand::revert()
             scene()->removeItem(*it);
 }
 
-DeleteItemsCommand::DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> &items)
-    : DesignCommand(scene, QCoreApplication::translate("DesignCommand", "删除"))
+DeleteItemsCommand::DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> &items,
+                                       const QString &text)
+    : DesignCommand(scene,
+                    text.isEmpty() ? QCoreApplication::translate("DesignCommand", "删除") : text)
 {
     const QSet<Jk_tu_yuan *> doomed(items.begin(), items.end());
     // Walk the stacking order from the top, remembering the last survivor seen.

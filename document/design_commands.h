@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orphaned_layers.h"
+
 #include <QList>
 #include <QPointer>
 #include <QUndoCommand>
@@ -10,8 +12,11 @@ class Jk_tu_yuan;
 
 // Base of every undoable edit of a design scene. Doing or undoing a command
 // sets the program-wide unsaved flag and tells the scene the design changed
-// (which rebuilds the layer list). Items are held through QPointer so that a
-// command never touches an item deleted elsewhere.
+// (which rebuilds the layer list). A layer record that loses its last item
+// through the command (or through its undo) is kept by the command and comes
+// back unchanged, at its old place in the list, when the items return. Items
+// are held through QPointer so that a command never touches an item deleted
+// elsewhere.
 class DesignCommand : public QUndoCommand
 {
 public:
@@ -29,6 +34,8 @@ protected:
 private:
     void changed();
     QPointer<Jk_chang_jing> m_scene;
+    OrphanedLayers m_orphanedByRedo;
+    OrphanedLayers m_orphanedByUndo;
 };
 
 // Adds items to the scene (every creator and importer goes through it). Before
@@ -51,11 +58,13 @@ private:
 };
 
 // Removes items from the scene and keeps them for undo; undo puts each back at
-// its old place in the stacking order.
+// its old place in the stacking order. `text` names the step in the undo
+// history (default "删除").
 class DeleteItemsCommand : public DesignCommand
 {
 public:
-    DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> &items);
+    DeleteItemsCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> &items,
+                       const QString &text = QString());
     ~DeleteItemsCommand() override;
 
 protected:

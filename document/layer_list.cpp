@@ -19,9 +19,30 @@ TuCeng *LayerList::find(int number, bool bitmap) const
     return nullptr;
 }
 
+int LayerList::indexOf(const LayerKey &key) const
+{
+    for (int i = 0; i < m_layers.size(); ++i)
+        if (m_layers.at(i)->yanse == key.number && m_layers.at(i)->tupian == key.bitmap)
+            return i;
+    return -1;
+}
+
 void LayerList::append(TuCeng *layer)
 {
     m_layers.append(layer);
+}
+
+void LayerList::insert(int index, TuCeng *layer)
+{
+    m_layers.insert(qBound(0, index, m_layers.size()), layer);
+}
+
+bool LayerList::move(int from, int to)
+{
+    if (from < 0 || to < 0 || from >= m_layers.size() || to >= m_layers.size())
+        return false;
+    m_layers.move(from, to);
+    return true;
 }
 
 void LayerList::clear()

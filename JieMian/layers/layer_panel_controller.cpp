@@ -1,9 +1,9 @@
 #include "layer_panel_controller.h"
 
-#include "design_commands.h"
 #include "design_pages.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
+#include "layer_commands.h"
 #include "layer_list.h"
 #include "layer_palette_bar.h"
 #include "layer_rebuild.h"
@@ -20,12 +20,13 @@ LayerPanelController::LayerPanelController(DesignPages *pages, LayerRowsPanel *r
 {
     connect(pages, &DesignPages::designChanged, this, &LayerPanelController::rebuild);
     connect(pages, &DesignPages::currentPageChanged, this, &LayerPanelController::rebuild);
-    connect(rows, &LayerRowsPanel::layerEdited, this, &LayerPanelController::onRowEdited);
+    connect(rows, &LayerRowsPanel::editRequested, this, &LayerPanelController::applyEdit);
+    connect(rows, &LayerRowsPanel::moveRequested, this, &LayerPanelController::moveLayer);
     connect(rows, &LayerRowsPanel::sendCengDblClick, this, &LayerPanelController::showParameters);
-    connect(rows, &LayerRowsPanel::deleteRequested, this, &LayerPanelController::deleteLayerItems);
+    connect(rows, &LayerRowsPanel::deleteRequested, this, &LayerPanelController::deleteLayer);
     connect(palette, &LayerPaletteBar::layerPicked, this,
             &LayerPanelController::moveSelectionToLayer);
-    connect(panel, &Tu_Ceng_Zhi::layerChanged, this, &LayerPanelController::onPanelChanged);
+    connect(panel, &Tu_Ceng_Zhi::editRequested, this, &LayerPanelController::applyEdit);
     palette->setCheckedLayer(lumitra::programState().currentLayer);
     rebuild();
 }
@@ -38,15 +39,17 @@ void LayerPanelController::rebuild()
     rebuildLayerList(scene);
     if (lumitra::programState().running)
         return; // frozen while the machine works: only the repaint above
+    showRecords();
+}
+
+void LayerPanelController::showRecords()
+{
     const LayerList &list = LayerList::instance();
     m_rows->setRows(list.layers());
-    // The panel follows its layer by key.
-    if (m_panel->layer()) {
-        const LayerKey key = m_panel->layerKey();
-        TuCeng *now = list.find(key.number, key.bitmap);
-        if (now != m_panel->layer())
-            m_panel->setLayer(now);
-    }
+    // The panel follows its layer by key and shows its values again (an undo
+    // may have changed them).
+    if (m_panel->layer())
+        m_panel->setLayer(list.find(m_panel->layerKey()));
     // An empty panel shows the first layer, so the parameters of a new design
     // are at hand without looking for the row to double-click.
     if (!m_panel->layer() && !list.isEmpty())
@@ -71,39 +74,49 @@ void LayerPanelController::moveSelectionToLayer(int number)
         return;
     const QList<Jk_tu_yuan *> selected = scene->selectedDesignItems();
     if (!selected.isEmpty())
-        scene->undoStack()->push(new ChangeLayerCommand(scene, selected, number));
+        push(new ChangeLayerCommand(scene, selected, number));
     rebuild();
 }
 
-void LayerPanelController::onRowEdited(TuCeng *layer)
+void LayerPanelController::push(QUndoCommand *command)
 {
-    lumitra::programState().unsaved = true;
-    if (m_panel->layer() == layer)
-        m_panel->refresh();
-    rebuild();
+    // Doing the command notifies the scene, which rebuilds the list and the rows.
+    m_pages->currentUndoStack()->push(command);
 }
 
-void LayerPanelController::onPanelChanged(TuCeng *)
+void LayerPanelController::applyEdit(const LayerEdit &edit)
 {
-    lumitra::programState().unsaved = true;
-    m_rows->refreshRows();
-    repaintCurrent();
+    Jk_chang_jing *scene = m_pages->currentScene();
+    if (!scene)
+        return;
+    auto *command = new LayerSettingCommand(scene, edit);
+    if (command->isValid()) {
+        push(command);
+        return;
+    }
+    delete command;
+    // Nothing to change: the widget that asked shows the record again.
+    if (!lumitra::programState().running)
+        showRecords();
 }
 
-void LayerPanelController::deleteLayerItems(TuCeng *layer)
+void LayerPanelController::moveLayer(const LayerKey &key, int step)
 {
     Jk_chang_jing *scene = m_pages->currentScene();
     if (!scene || lumitra::programState().running)
         return;
-    QList<Jk_tu_yuan *> doomed;
-    for (Jk_tu_yuan *item : scene->designItems())
-        if (item->layer_id == layer->yanse && item->is_bitmap == layer->tupian)
-            doomed.append(item);
-    scene->deleteItemsUndoable(doomed);
+    const int from = LayerList::instance().indexOf(key);
+    auto *command = new MoveLayerCommand(scene, key, from + step);
+    if (from >= 0 && command->isValid())
+        push(command);
+    else
+        delete command;
 }
 
-void LayerPanelController::repaintCurrent()
+void LayerPanelController::deleteLayer(const LayerKey &key)
 {
-    if (Jk_chang_jing *scene = m_pages->currentScene())
-        scene->repaintItems();
+    Jk_chang_jing *scene = m_pages->currentScene();
+    if (!scene || lumitra::programState().running || itemsOfLayer(scene, key).isEmpty())
+        return;
+    push(new DeleteLayerCommand(scene, key));
 }

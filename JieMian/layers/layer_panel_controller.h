@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layer_edit.h"
 #include "tu_ceng.h"
 
 #include <QObject>
@@ -8,12 +9,16 @@ class DesignPages;
 class LayerPaletteBar;
 class LayerRowsPanel;
 class Tu_Ceng_Zhi;
+class QUndoCommand;
 
 // Keeps the layer rows, the parameter panel and the palette in step with the
-// current page. The rebuild runs after every change to the current page's
-// items, after a page switch and after a change in a row; while a job runs it
-// only repaints. Every change made in the rows or the panel sets the unsaved
-// flag. The controller owns none of the widgets.
+// current page, and turns the edits asked for in the rows and the panel into
+// undo steps on the current page's undo stack (settings, moving a layer up or
+// down the list, deleting a layer with its items); those steps set the unsaved
+// flag. The rebuild runs after every change to the current page's items or
+// layers, after a page switch and after every done or undone step; while a job
+// runs it only repaints, and moving or deleting a layer is refused. The
+// controller owns none of the widgets.
 class LayerPanelController : public QObject
 {
     Q_OBJECT
@@ -30,16 +35,23 @@ public slots:
     // Moves the selected items of the current page to `number` as one undoable
     // edit, then rebuilds (palette click).
     void moveSelectionToLayer(int number);
+    // One setting of a layer as an undo step; an edit that changes nothing or
+    // names a missing layer only shows the record again. A saved parameter set
+    // comes in as LayerField::Parameters.
+    void applyEdit(const LayerEdit &edit);
+    // Moves a layer `step` places up (negative) or down the list as an undo step.
+    void moveLayer(const LayerKey &key, int step);
+    // Deletes every item of a layer as one undo step; undo brings back the
+    // items and the layer exactly as it was.
+    void deleteLayer(const LayerKey &key);
 
 signals:
     // The panel was asked for; a window that docks it may raise its dock.
     void parametersShown(TuCeng *layer);
 
 private:
-    void onRowEdited(TuCeng *layer);
-    void onPanelChanged(TuCeng *layer);
-    void deleteLayerItems(TuCeng *layer);
-    void repaintCurrent();
+    void push(QUndoCommand *command);
+    void showRecords();
 
     DesignPages *m_pages;
     LayerRowsPanel *m_rows;

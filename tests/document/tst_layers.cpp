@@ -14,6 +14,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDataStream>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,6 +23,7 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QUndoStack>
+#include <QVBoxLayout>
 #include <QtTest>
 
 using lumitra::programState;
@@ -83,6 +85,50 @@ void setField(TuCeng &l, const QString &box, double v)
          : box == QLatin1String("sudu_Box")    ? l.sudu
          : box == QLatin1String("gonglv_Box")  ? l.gonglv
                                                : l.cishu) = qint32(v);
+}
+
+// Stands in for the controller: every edit the panel asks for is written into
+// `layer` and the panel shows the record again.
+void applyEditsTo(Tu_Ceng_Zhi &panel, TuCeng &layer)
+{
+    QObject::connect(&panel, &Tu_Ceng_Zhi::editRequested, &panel, [&](const LayerEdit &edit) {
+        QCOMPARE(edit.key, (LayerKey{layer.yanse, layer.tupian}));
+        copyLayerField(layer, edit.value, edit.field);
+        panel.refresh();
+    });
+}
+
+QByteArray bytesOf(const TuCeng &l)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    writeTuCeng(out, l);
+    return bytes;
+}
+
+QList<QByteArray> listBytes()
+{
+    QList<QByteArray> all;
+    for (const TuCeng *l : LayerList::instance().layers())
+        all.append(bytesOf(*l));
+    return all;
+}
+
+// A wheel notch downwards over the middle of `w`; true when it was taken.
+bool wheel(QWidget *w)
+{
+    const QPoint local = w->rect().center();
+    QWheelEvent event(local, w->mapToGlobal(local), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(w, &event);
+    return event.isAccepted();
+}
+
+bool focusOn(QWidget *w)
+{
+    QApplication::setActiveWindow(w->window());
+    w->setFocus(Qt::OtherFocusReason);
+    return QTest::qWaitFor([w] { return w->hasFocus(); });
 }
 
 template<typename T> T *child(QWidget &w, const char *name)
@@ -281,7 +327,8 @@ private slots:
         TuCeng layer(12, false);
         layer.moshi = FillMode; // fill fields shown
         setField(layer, name, stored);
-        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::layerChanged);
+        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
+        applyEditsTo(panel, layer);
         panel.setLayer(&layer);
         QVERIFY(panel.isEnabled());
         QCOMPARE(spy.count(), 0); // filling is no edit
@@ -290,7 +337,7 @@ private slots:
         set(edited);
         QCOMPARE(fieldValue(layer, name), edited);
         QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.last().at(0).value<TuCeng *>(), &layer);
+        QCOMPARE(spy.last().at(0).value<LayerEdit>().key, (LayerKey{12, false}));
 
         panel.setLayer(nullptr); // nothing to write to
         QVERIFY(!panel.isEnabled());
@@ -313,6 +360,7 @@ private slots:
         layer.moshi = 1;
         layer.mingcheng = QStringLiteral("engrave");
         layer.shuchu = false;
+        applyEditsTo(panel, layer);
         panel.setLayer(&layer);
         QCOMPARE(panel.layerKey(), (LayerKey{12, true}));
         QCOMPARE(child<QComboBox>(panel, "moshi_Box")->currentIndex(), 1);
@@ -321,7 +369,7 @@ private slots:
         QVERIFY(child<QCheckBox>(panel, "xianshi_Box")->isChecked());
         QVERIFY(!child<QCheckBox>(panel, "danxaing_Box")->isChecked());
 
-        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::layerChanged);
+        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
         child<QCheckBox>(panel, "danxaing_Box")->setChecked(true);
         child<QCheckBox>(panel, "shuchu_Box")->setChecked(true);
         child<QCheckBox>(panel, "xianshi_Box")->setChecked(false);
@@ -386,6 +434,7 @@ private slots:
         Tu_Ceng_Zhi panel;
         panel.show();
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        applyEditsTo(panel, layer);
         panel.setLayer(&layer);
         const auto blank = [&](bool yes) {
             for (const char *name : {"fangxiang_Box", "jianju_Box", "saomiao_Box"}) {
@@ -402,7 +451,7 @@ private slots:
         blank(true);
         QCOMPARE(layer.jianju, 0.3);
 
-        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::layerChanged);
+        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
         QComboBox *mode = child<QComboBox>(panel, "moshi_Box");
         QTest::keyClick(mode, Qt::Key_Down); // line -> fill, as the user picks it
         QCOMPARE(layer.moshi, int(FillMode));
@@ -444,6 +493,7 @@ private slots:
         TuCeng layer(0, false);
         Tu_Ceng_Zhi panel;
         panel.show();
+        applyEditsTo(panel, layer);
         panel.setLayer(&layer);
         auto *spin = panel.findChild<QSpinBox *>(box);
         spin->setFocus();
@@ -612,6 +662,8 @@ private slots:
         QCOMPARE(child<QComboBox>(f.panel, "moshi_Box")->count(), 5);
     }
 
+    // The row's delete takes the layer's items as one step; undo brings back
+    // the items and the layer's record with every parameter at its place.
     void deleteButtonRemovesTheLayersItems()
     {
         Fixture f;
@@ -620,15 +672,217 @@ private slots:
         f.add(2);
         f.add(2, true);
         QCOMPARE(f.rows.rows().size(), 3);
+        TuCeng *layer = LayerList::instance().find(2, false);
+        layer->gonglv = 15;
+        layer->sudu = 700;
+        layer->moshi = FillMode;
+        layer->jianju = 0.2;
+        layer->cishu = 3;
+        layer->mingcheng = QStringLiteral("score");
+        layer->shuchu = false;
+        const QList<QByteArray> records = listBytes();
+        const QList<Jk_tu_yuan *> items = f.scene()->designItems();
         TuCengItem2 *row = f.rows.rows().first();
-        QCOMPARE(row->layer()->yanse, 2);
-        QVERIFY(!row->layer()->tupian);
+        QCOMPARE(row->key(), (LayerKey{2, false}));
+        programState().unsaved = false;
         QTest::mouseClick(row->deleteButton(), Qt::LeftButton);
+        QVERIFY(programState().unsaved);
         QCOMPARE(f.scene()->designItemCount(), 2);
         QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{4, false}, {2, true}}));
         f.scene()->undoStack()->undo();
-        QCOMPARE(f.scene()->designItemCount(), 4);
-        QCOMPARE(f.rows.rows().size(), 3);
+        QCOMPARE(f.scene()->designItems(), items);
+        QCOMPARE(listBytes(), records);
+        QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{2, false}, {4, false}, {2, true}}));
+        QCOMPARE(child<QLabel>(*f.rows.rows().first(), "mingcheng")->text(),
+                 QStringLiteral("score"));
+        f.scene()->undoStack()->redo();
+        QCOMPARE(f.scene()->designItemCount(), 2);
+    }
+
+    // Mode, output and show changed in a row are undo steps.
+    void rowEditsAreUndoSteps_data()
+    {
+        QTest::addColumn<QString>("widget");
+        QTest::newRow("mode") << "moshi";
+        QTest::newRow("output") << "shuchu";
+        QTest::newRow("show") << "xianshi";
+    }
+    void rowEditsAreUndoSteps()
+    {
+        QFETCH(QString, widget);
+        Fixture f;
+        f.add(1);
+        f.add(6);
+        const QList<QByteArray> before = listBytes();
+        const auto rowWidget = [&] { return f.rows.rows().at(1)->findChild<QWidget *>(widget); };
+        if (auto *mode = qobject_cast<QComboBox *>(rowWidget()))
+            QTest::keyClick(mode, Qt::Key_Down);
+        else
+            qobject_cast<QCheckBox *>(rowWidget())->click();
+        QCOMPARE(f.scene()->undoStack()->count(), 3); // two adds and the edit
+        const QList<QByteArray> after = listBytes();
+        QVERIFY(after != before);
+        QCOMPARE(after.at(0), before.at(0));
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listBytes(), before);
+        // The new rows show the record as it is again.
+        const TuCeng *layer = LayerList::instance().find(6, false);
+        if (auto *mode = qobject_cast<QComboBox *>(rowWidget()))
+            QCOMPARE(mode->currentIndex(), layer->moshi);
+        else
+            QCOMPARE(qobject_cast<QCheckBox *>(rowWidget())->isChecked(),
+                     widget == QLatin1String("shuchu") ? layer->shuchu : layer->xianshi);
+        f.scene()->undoStack()->redo();
+        QCOMPARE(listBytes(), after);
+    }
+
+    // Typing "100" into the power box is one step; a second stretch of typing
+    // after the box finished editing is another. The panel shows what undo gives back.
+    void panelTypingIsOneStepEach()
+    {
+        Fixture f;
+        f.add(3);
+        f.panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&f.panel));
+        f.controller.showParameters(LayerList::instance().find(3, false));
+        QUndoStack *stack = f.scene()->undoStack();
+        const int start = stack->count();
+        auto *power = child<QSpinBox>(f.panel, "gonglv_Box");
+        QVERIFY(focusOn(power));
+        power->selectAll();
+        QTest::keyClicks(power, QStringLiteral("100"));
+        QCOMPARE(LayerList::instance().find(3, false)->gonglv, 100);
+        QCOMPARE(power->text(), QStringLiteral("100"));
+        QCOMPARE(stack->count(), start + 1);
+        QTest::keyClick(power, Qt::Key_Enter); // finishes the stretch
+        power->selectAll();
+        QTest::keyClicks(power, QStringLiteral("42"));
+        QCOMPARE(stack->count(), start + 2);
+        auto *name = child<QLineEdit>(f.panel, "mingcheng_Edit");
+        QVERIFY(focusOn(name));
+        name->selectAll();
+        QTest::keyClicks(name, QStringLiteral("engrave"));
+        QCOMPARE(LayerList::instance().find(3, false)->mingcheng, QStringLiteral("engrave"));
+        QCOMPARE(stack->count(), start + 3);
+
+        stack->undo();
+        QCOMPARE(LayerList::instance().find(3, false)->mingcheng, QStringLiteral("L3"));
+        QCOMPARE(name->text(), QStringLiteral("L3"));
+        stack->undo();
+        QCOMPARE(LayerList::instance().find(3, false)->gonglv, 100);
+        QCOMPARE(power->value(), 100);
+        stack->undo();
+        QCOMPARE(LayerList::instance().find(3, false)->gonglv, 80);
+        QCOMPARE(power->value(), 80);
+        QCOMPARE(stack->count() - stack->index(), 3);
+    }
+
+    // Every panel field is one undo step that undo reverses exactly.
+    void panelFieldsAreUndoable_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<double>("value");
+        QTest::newRow("fangxiang") << "fangxiang_Box" << 45.0;
+        QTest::newRow("jianju") << "jianju_Box" << 0.25;
+        QTest::newRow("saomiao") << "saomiao_Box" << 2.5;
+        QTest::newRow("sudu") << "sudu_Box" << 1234.0;
+        QTest::newRow("gonglv") << "gonglv_Box" << 55.0;
+        QTest::newRow("cishu") << "cishu_Box" << 3.0;
+        QTest::newRow("shuchu") << "shuchu_Box" << 0.0;
+        QTest::newRow("xianshi") << "xianshi_Box" << 0.0;
+        QTest::newRow("danxaing") << "danxaing_Box" << 1.0;
+        QTest::newRow("moshi") << "moshi_Box" << 2.0;
+    }
+    void panelFieldsAreUndoable()
+    {
+        QFETCH(QString, name);
+        QFETCH(double, value);
+        Fixture f;
+        f.add(3);
+        LayerList::instance().find(3, false)->moshi = FillMode; // fill fields editable
+        f.controller.showParameters(LayerList::instance().find(3, false));
+        const QList<QByteArray> before = listBytes();
+        QWidget *w = f.panel.findChild<QWidget *>(name);
+        QVERIFY(w);
+        if (auto *i = qobject_cast<QSpinBox *>(w))
+            i->setValue(int(value));
+        else if (auto *d = qobject_cast<QDoubleSpinBox *>(w))
+            d->setValue(value);
+        else if (auto *c = qobject_cast<QCheckBox *>(w))
+            c->setChecked(value != 0);
+        else
+            QTest::keyClick(w, Qt::Key_Down);
+        const QList<QByteArray> after = listBytes();
+        QVERIFY(after != before);
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listBytes(), before);
+        f.scene()->undoStack()->redo();
+        QCOMPARE(listBytes(), after);
+    }
+
+    // The arrows of a row move its layer, the order the job burns them in.
+    void rowArrowsMoveLayers()
+    {
+        Fixture f;
+        f.add(1);
+        f.add(2);
+        f.add(3);
+        QVERIFY(!f.rows.rows().first()->upButton()->isEnabled());
+        QVERIFY(f.rows.rows().first()->downButton()->isEnabled());
+        QVERIFY(f.rows.rows().last()->upButton()->isEnabled());
+        QVERIFY(!f.rows.rows().last()->downButton()->isEnabled());
+        programState().unsaved = false;
+        QTest::mouseClick(f.rows.rows().first()->downButton(), Qt::LeftButton);
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {1, false}, {3, false}}));
+        QCOMPARE(rowKeys(f.rows), listKeys());
+        QVERIFY(programState().unsaved);
+        QTest::mouseClick(f.rows.rows().last()->upButton(), Qt::LeftButton);
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {3, false}, {1, false}}));
+        f.add(3); // a rebuild keeps the order
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {3, false}, {1, false}}));
+        f.scene()->undoStack()->undo();
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {1, false}, {3, false}}));
+        f.scene()->undoStack()->undo();
+        QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{1, false}, {2, false}, {3, false}}));
+    }
+
+    // The wheel over an unfocused mode or power box changes nothing; once the
+    // box has the focus it does.
+    void wheelNeedsFocus_data()
+    {
+        QTest::addColumn<bool>("inRow");
+        QTest::newRow("row mode") << true;
+        QTest::newRow("panel power") << false;
+    }
+    void wheelNeedsFocus()
+    {
+        QFETCH(bool, inRow);
+        QWidget window; // made first, so the fixture's widgets leave it before it goes
+        Fixture f;
+        f.add(4);
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(&f.rows);
+        layout->addWidget(&f.panel);
+        auto *elsewhere = new QLineEdit(&window);
+        layout->addWidget(elsewhere);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(focusOn(elsewhere));
+        const QList<QByteArray> before = listBytes();
+        const auto box = [&]() -> QWidget * {
+            if (inRow)
+                return child<QComboBox>(*f.rows.rows().first(), "moshi");
+            return child<QSpinBox>(f.panel, "gonglv_Box");
+        };
+        QVERIFY(!wheel(box()));
+        QCOMPARE(listBytes(), before);
+        QCOMPARE(f.scene()->undoStack()->count(), 1);
+        QVERIFY(focusOn(box()));
+        QVERIFY(wheel(box()));
+        QVERIFY(listBytes() != before);
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listBytes(), before);
     }
 
     void panelEditsRefreshRowsAndFollowVanishedLayer()
