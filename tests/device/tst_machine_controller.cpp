@@ -314,8 +314,8 @@ void TestMachineController::closingStopsTheLaser_data()
 {
     QTest::addColumn<QString>("how");
     QTest::addColumn<bool>("job"); // a job runs, else test fire is on
-    for (const char *how : {"disconnect button", "shutdownLink", "controller destroyed",
-                            "new connect replaces the link"}) {
+    for (const char *how : {"disconnect button", "shutdownLink", "application quits",
+                            "controller destroyed", "new connect replaces the link"}) {
         QTest::newRow(qPrintable(QString("%1, test fire").arg(how))) << QString(how) << false;
         QTest::newRow(qPrintable(QString("%1, job").arg(how))) << QString(how) << true;
     }
@@ -345,6 +345,9 @@ void TestMachineController::closingStopsTheLaser()
     } else if (how == "shutdownLink") {
         m_controller->shutdownLink();
         m_controller->shutdownLink(); // twice: nothing more happens
+    } else if (how == "application quits") {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        qApp->exec(); // returns after aboutToQuit
     } else if (how == "controller destroyed") {
         m_controller.reset();
         link = nullptr;
