@@ -27,6 +27,20 @@ QString homeText()
     return QStringLiteral("$H\n");
 }
 
+QString laserOffText()
+{
+    return QStringLiteral("M5\n");
+}
+
+StopBeforeClose stopBeforeClose(bool laserOn, bool machineBusy)
+{
+    StopBeforeClose stop;
+    stop.hold = machineBusy;
+    stop.reset = machineBusy;
+    stop.laserOff = laserOn || machineBusy;
+    return stop;
+}
+
 SerialLine classifySerialLine(const QString &line)
 {
     if (line.contains(QLatin1String("ok")))
@@ -93,6 +107,18 @@ QString serialStatusText(const QString &line)
     if (cam >= 0)
         text += QLatin1Char(' ') + span(line, cam, line.indexOf(QLatin1Char('>'), cam));
     return text;
+}
+
+bool statusShowsMotion(const QString &report)
+{
+    if (!report.startsWith(QLatin1Char('<')))
+        return false;
+    int end = 1;
+    while (end < report.size() && !QStringLiteral("|:>").contains(report.at(end)))
+        ++end;
+    const QString state = report.mid(1, end - 1);
+    return state == QLatin1String("Run") || state == QLatin1String("Hold")
+           || state == QLatin1String("Jog") || state == QLatin1String("Home");
 }
 
 bool namesMakerModel(const QString &text)

@@ -21,6 +21,24 @@ QString identifyText();        // "$i\n": handshake, answered by a "VER:" line
 QString settingsRequestText(); // "$I\n$$\n": build info and every setting
 QString unlockText();          // "$X\n"
 QString homeText();            // "$H\n"
+QString laserOffText();        // "M5\n": laser (spindle) off
+
+// What the link writes before it closes its port, so that the laser does not
+// stay on when nothing talks to the controller any more.
+struct StopBeforeClose
+{
+    bool hold = false;     // "!" first: feed hold, the motion decelerates
+    bool reset = false;    // then 0x18: soft reset, buffers and job dropped
+    bool laserOff = false; // "M5\n" last, once the controller is back after a reset
+    bool any() const { return hold || reset || laserOff; }
+};
+// `laserOn`: the laser was switched on outside a job (test fire).
+// `machineBusy`: a job streams or the machine reported motion.
+StopBeforeClose stopBeforeClose(bool laserOn, bool machineBusy);
+
+// True when a status report ("<Run|...", "<Hold:0|...") names a state in which
+// the machine moves or may go on moving: Run, Hold, Jog, Home.
+bool statusShowsMotion(const QString &report);
 
 // What a received serial line (cut at "\n", a trailing "\r" kept) means. The
 // tests run in this order and the first match decides:

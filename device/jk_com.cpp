@@ -101,6 +101,10 @@ void Jk_com::disconnectPort()
 
 void Jk_com::shutDown()
 {
+    const lumitra::grbl::StopBeforeClose stop =
+        lumitra::grbl::stopBeforeClose(m_laserOn, machineBusy());
+    m_laserOn = false;
+    m_machineMoving = false;
     m_pollTimer.stop();
     m_handshakeTimer.stop();
     m_running = false;
@@ -114,8 +118,10 @@ void Jk_com::shutDown()
     m_fileRunActive = false;
     m_receivedLines.clear();
     m_handshakeDone = false;
+    // Queued behind every write handed to the worker so far; the stale stream
+    // lines among them are dropped there (forgetStaleLines above).
     QMetaObject::invokeMethod(
-        m_worker, [this] { m_worker->close(); }, Qt::BlockingQueuedConnection);
+        m_worker, [this, stop] { m_worker->stopAndClose(stop); }, Qt::BlockingQueuedConnection);
 }
 
 void Jk_com::onHandshakeTimeout()
@@ -124,6 +130,7 @@ void Jk_com::onHandshakeTimeout()
         return;
     qDebug() << " out handshake timeout" << portName();
     shutDown();
+    emit handshakeFailed(m_portName, QString());
     emit yi_lian_jie(false);
 }
 
@@ -134,10 +141,12 @@ void Jk_com::onPortFailed(quint64 session, const QString &reason)
     m_lastError = reason;
     const bool wasLinked = m_handshakeDone;
     shutDown();
-    if (wasLinked)
+    if (wasLinked) {
         emit linkLost(reason);
-    else
+    } else {
+        emit handshakeFailed(m_portName, reason);
         emit yi_lian_jie(false);
+    }
 }
 
 void Jk_com::onLines(quint64 session, const QStringList &lines)
@@ -175,12 +184,14 @@ void Jk_com::handleLine(const QString &line)
         break;
     case SerialLine::Alarm:
         qDebug() << "Alarm";
+        m_machineMoving = false;
         faultReset(line, true);
         break;
     case SerialLine::Error:
         faultReset(line, false);
         break;
     case SerialLine::Status:
+        m_machineMoving = lumitra::grbl::statusShowsMotion(line);
         emit shu_chu_zhuang_tai(lumitra::grbl::serialStatusText(line));
         break;
     case SerialLine::Version:

@@ -25,8 +25,15 @@ class StreamState;
 // Life: connectPort() opens the port and writes "$i\n"; the first "VER:" line
 // completes the handshake (yi_lian_jie(true), send loop and 500 ms "?" poll
 // start); no "VER:" within handshakeTimeout() closes the port and emits
-// yi_lian_jie(false). A failing port (unplugged) is closed and reported by
-// linkLost. disconnectPort() is the user's disconnect.
+// yi_lian_jie(false) (handshakeFailed says why). A failing port (unplugged) is
+// closed and reported by linkLost. disconnectPort() is the user's disconnect.
+//
+// Every close of an open port (disconnectPort, a new connectPort, the
+// destructor) first stops the machine when the laser may be on: with a job
+// streaming or the machine reporting motion it writes "!", 0x18 and then
+// "M5\n"; with only test fire on, "M5\n". Those bytes are on the wire before
+// the port closes (see SerialPortWorker::stopAndClose). A port that failed
+// cannot be written and is only closed.
 class Jk_com : public QThread
 {
     Q_OBJECT
@@ -39,9 +46,18 @@ public:
     // bytes) and starts the handshake. False when the port did not open: that is
     // only logged, and no yi_lian_jie follows.
     bool connectPort(const QString &portName);
-    // Stops the poll, the send loop and a running job, empties the queues and
-    // closes the port. Emits nothing.
+    // Stops the poll, the send loop and a running job, stops the machine as
+    // described above, empties the queues and closes the port. Blocks until the
+    // port is closed (at most about 2 s). Emits nothing; safe when closed.
     void disconnectPort();
+
+    // The laser was switched on outside a job (test fire on) or off again; the
+    // link switches it off before it closes. Cleared by every close.
+    void setLaserOn(bool on) { m_laserOn = on; }
+    bool laserOn() const { return m_laserOn; }
+    // A file run streams, or the last status report showed motion (Run, Hold,
+    // Jog, Home) with no Idle or alarm since.
+    bool machineBusy() const { return m_fileRunActive || m_machineMoving; }
 
     // The one entry for serial G-code. "yunxing" runs the job file
     // (lumitra::programState().jobFilePath); any other text is split on "\n",
@@ -83,6 +99,11 @@ signals:
     void shu_chu_can_shu(const QMap<QString, QString> &can_shu);
     void diao_ke_jin_du(int percent);
     void xie_xin_hao(const QString &line);
+
+    // The handshake on `portName` failed; emitted just before yi_lian_jie(false).
+    // `reason` is empty when nothing answered "VER:" within handshakeTimeout(),
+    // otherwise the system's text for the port failing during the handshake.
+    void handshakeFailed(const QString &portName, const QString &reason);
 
     // Every received line, before it is classified (console, headless sender).
     void lineReceived(const QString &line);
@@ -135,6 +156,8 @@ private:
     std::atomic_bool m_running{false};
     QPointer<ReadTxtThread> m_reader;
     bool m_fileRunActive = false;
+    bool m_machineMoving = false; // last status report showed motion
+    bool m_laserOn = false;       // test fire on
     bool m_readerDone = false;
     // Lines the send loop emitted; those emitted before a stop are not written
     // after it.

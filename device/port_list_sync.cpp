@@ -21,7 +21,9 @@ PortListUpdate syncPortList(const QStringList &present, const QStringList &liste
             u.listAfter.removeAt(row);
         }
     }
-    if (linkMode == 1 && !present.contains(selected)) {
+    // A typed path the list never held (a link to a port, a bridge's pty) is not
+    // watched here; the link notices its loss itself.
+    if (linkMode == 1 && listed.contains(selected) && !present.contains(selected)) {
         u.selectedLost = true;
         u.selectFirst = u.listAfter.value(0);
     }

@@ -12,7 +12,7 @@ struct PortListUpdate
     QStringList appended;      // present ports the list lacked, added at the end
     QList<int> removedRows;    // rows of vanished ports, from the last backwards
     QStringList listAfter;     // the entries once applied
-    bool selectedLost = false; // serial link up and its port vanished
+    bool selectedLost = false; // serial link up and its listed port vanished
     QString selectFirst;       // entry to select after a loss ("" when the list is empty)
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grbl_protocol.h"
 #include "line_assembler.h"
 
 #include <QObject>
@@ -41,6 +42,10 @@ public slots:
     // False with the port's error text in `error` when it does not open.
     bool open(const QString &name, QString *error);
     void close();
+    // Writes what `stop` asks for, waits until those bytes have left the port
+    // (bounded, see the .cpp), then closes. With the port already closed or
+    // failed it only closes. Blocks the I/O thread for at most about 2 s.
+    void stopAndClose(const lumitra::grbl::StopBeforeClose &stop);
     // Write handler: `text` as UTF-8, when the port is open.
     void writeText(const QString &text);
     // A line of the send loop (counted by the loop before it was emitted).
@@ -58,6 +63,8 @@ signals:
 
 private:
     void onError(int error);
+    bool writeAndDrain(const QByteArray &bytes, int timeoutMs);
+    void waitForBanner(int timeoutMs);
 
     std::shared_ptr<StreamState> m_stream;
     QSerialPort *m_port = nullptr;

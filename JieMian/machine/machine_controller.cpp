@@ -5,10 +5,13 @@
 #include "jk_com.h"
 #include "machine_panel.h"
 #include "message_box.h"
+#include "port_choice.h"
 #include "program_state.h"
 #include "ui_machine_panel.h"
 
+#include <QCoreApplication>
 #include <QDebug>
+#include <QSignalBlocker>
 #include <QTime>
 
 using lumitra::programState;
@@ -33,11 +36,17 @@ MachineController::MachineController(MachinePanel *panel, QWidget *dialogParent,
         if (m_com && m_com->isLinked())
             m_com->requestSettings();
     });
+    m_portChoice = new PortChoice(panel->form().port_Box, this);
     connectPanel();
+    if (QCoreApplication *app = QCoreApplication::instance())
+        connect(app, &QCoreApplication::aboutToQuit, this, &MachineController::shutdownLink);
 }
 
 MachineController::~MachineController()
 {
+    // The window's receivers may be half torn down already.
+    const QSignalBlocker quiet(this);
+    shutdownLink();
     if (m_watcher)
         m_watcher->stop();
 }
@@ -57,14 +66,9 @@ void MachineController::startPortWatcher(std::function<QStringList()> lister)
 void MachineController::connectWatcher()
 {
     Ui::MachinePanel &f = m_panel->form();
-    connect(m_watcher, &Chuan_Kou_Jian_Ce::portAppended, this,
-            [&f](const QString &port) { f.port_Box->addItem(port); });
-    connect(m_watcher, &Chuan_Kou_Jian_Ce::portRemoved, this,
-            [&f](int row) { f.port_Box->removeItem(row); });
-    connect(m_watcher, &Chuan_Kou_Jian_Ce::selectPort, this, [&f](const QString &port) {
-        if (!port.isEmpty())
-            f.port_Box->setCurrentText(port);
-    });
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::portAppended, m_portChoice, &PortChoice::appendPort);
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::portRemoved, m_portChoice, &PortChoice::removePortAt);
+    connect(m_watcher, &Chuan_Kou_Jian_Ce::selectPort, m_portChoice, &PortChoice::autoSelect);
     connect(m_watcher, &Chuan_Kou_Jian_Ce::send_Duan_Kai, this, [this] {
         if (programState().connectionMode == lumitra::SerialLink)
             onLinkLost();
@@ -85,13 +89,25 @@ void MachineController::toggleConnection()
     }
     if (mode != lumitra::NotConnected)
         return; // the WiFi link is up
-    const QString port = m_panel->form().port_Box->currentText();
+    const QString port = m_portChoice->port();
     if (port.isEmpty()) {
-        qDebug() << " out no port selected";
+        reportConnectFailure(tr("请选择或输入串口!"));
         return;
     }
+    ensureLink();
+    m_com->setHandshakeTimeout(m_handshakeTimeoutMs);
+    if (!m_com->connectPort(port)) {
+        showDisconnected();
+        reportConnectFailure(tr("无法打开串口 %1:%2").arg(port, m_com->lastError()));
+    }
+}
+
+void MachineController::ensureLink()
+{
     if (!m_com) {
         m_com = new Jk_com(this);
+        connect(m_com, &Jk_com::handshakeFailed, this, &MachineController::onHandshakeFailed,
+                Qt::QueuedConnection);
         connect(m_com, &Jk_com::yi_lian_jie, this, &MachineController::onLinkResult,
                 Qt::QueuedConnection);
         connect(m_com, &Jk_com::shu_chu_zhuang_tai, this, &MachineController::onStatus,
@@ -103,15 +119,39 @@ void MachineController::toggleConnection()
         connect(m_com, &Jk_com::diao_ke_jin_du, m_panel->form().progress_Bar,
                 &QProgressBar::setValue, Qt::QueuedConnection);
     }
-    if (!m_com->connectPort(port))
-        showDisconnected();
 }
 
 void MachineController::disconnectLink()
 {
+    shutdownLink();
+}
+
+void MachineController::shutdownLink()
+{
     if (m_com)
         m_com->disconnectPort();
-    showDisconnected();
+    // The WiFi link is not this controller's; its panel state stays.
+    if (programState().connectionMode != lumitra::WifiLink)
+        showDisconnected();
+}
+
+void MachineController::onHandshakeFailed(const QString &port, const QString &reason)
+{
+    reportConnectFailure(reason.isEmpty() ? tr("串口 %1 上的设备没有作为GRBL控制器应答!").arg(port)
+                                          : tr("串口 %1 在连接时出错:%2").arg(port, reason));
+}
+
+void MachineController::reportConnectFailure(const QString &text)
+{
+    qDebug() << " out connect" << text;
+    appendConsole(text);
+    lumitra::show_notice(m_dialogParent, text);
+}
+
+void MachineController::appendConsole(const QString &text)
+{
+    if (m_panel)
+        m_panel->form().console_Edit->appendPlainText(text);
 }
 
 void MachineController::onLinkResult(bool linked)
@@ -125,6 +165,7 @@ void MachineController::onLinkResult(bool linked)
     m_com->queueText(lumitra::grbl::homeText());
     m_afterConnectTimer.start();
     m_panel->form().connect_Btn->setText(tr("已连接"));
+    appendConsole(tr("已连接到串口 %1").arg(m_com->portName()));
     if (m_watcher) {
         m_watcher->setSelectedPort(m_com->portName());
         m_watcher->setLinkMode(lumitra::SerialLink);
@@ -140,16 +181,21 @@ void MachineController::onLinkLost()
 
 void MachineController::showDisconnected()
 {
-    Ui::MachinePanel &f = m_panel->form();
     const bool wasConnected = programState().connectionMode == lumitra::SerialLink;
     if (wasConnected)
         programState().connectionMode = lumitra::NotConnected;
     m_afterConnectTimer.stop();
     m_indicatorTimer.stop();
-    f.connect_Btn->setText(tr("连接"));
-    f.running_Lab->hide();
-    f.pause_Btn->setText(tr("暂停"));
-    f.fire_Btn->setChecked(false);
+    if (m_panel) {
+        Ui::MachinePanel &f = m_panel->form();
+        f.connect_Btn->setText(tr("连接"));
+        f.running_Lab->hide();
+        f.pause_Btn->setText(tr("暂停"));
+        // The link switched the laser off before it closed; nothing to send.
+        const QSignalBlocker quiet(f.fire_Btn);
+        f.fire_Btn->setChecked(false);
+        f.fire_Btn->setText(tr("点火"));
+    }
     if (m_watcher)
         m_watcher->setLinkMode(programState().connectionMode);
     setBusy(false);

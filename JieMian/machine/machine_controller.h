@@ -13,12 +13,18 @@
 class Chuan_Kou_Jian_Ce;
 class Jk_com;
 class MachinePanel;
+class PortChoice;
 class QWidget;
 
 // Carries out every machine control of the panel over the current link, and
 // the window's reaction to what the machine reports. Owns the serial link
 // (Jk_com, created at the first connect) and the port watcher; owns none of the
-// widgets. GUI thread only.
+// widgets (the panel may go first when the window is torn down). GUI thread only.
+//
+// Every connect attempt ends visibly: a line in the panel's console, and a
+// message when it failed (no port, the port did not open, nothing answered as
+// a GRBL controller). Closing the link for any reason stops the laser first
+// (Jk_com), and the application quitting closes it (shutdownLink).
 //
 // Serial controls go through the link's queue (real-time bytes for pause,
 // resume and stop). In WiFi mode every control becomes a command URL announced
@@ -31,6 +37,7 @@ class MachineController : public QObject
 
 public:
     MachineController(MachinePanel *panel, QWidget *dialogParent, QObject *parent = nullptr);
+    // Shuts the link down (shutdownLink) without emitting anything.
     ~MachineController() override;
 
     // The serial link, or nullptr before the first connect.
@@ -39,12 +46,16 @@ public:
     // Starts the port watcher; `lister` replaces the system's port list (tests).
     void startPortWatcher(std::function<QStringList()> lister = {});
     Chuan_Kou_Jian_Ce *portWatcher() const { return m_watcher; }
+    // The panel's port box (typed paths, watcher updates).
+    PortChoice *portChoice() const { return m_portChoice; }
 
     // Where the frame button and frameDesign() take the design's output area
     // (scene rectangle, mm); the window gives outputBounds() of its scene.
     void setFrameSource(std::function<QRectF()> source) { m_frameSource = std::move(source); }
     // Replaces the run-file dialog (tests); returns the chosen path or "".
     void setFileChooser(std::function<QString()> chooser) { m_fileChooser = std::move(chooser); }
+    // How long a connect waits for the controller's "VER:" answer (default 5000 ms).
+    void setHandshakeTimeout(int ms) { m_handshakeTimeoutMs = ms; }
     // The address typed in the window's IP field (WiFi commands).
     void setWifiAddress(const QString &address) { m_wifiAddress = address; }
     // The WiFi link's busy flag, kept by the WiFi status handler.
@@ -59,9 +70,19 @@ public:
     bool travelKnown() const { return m_travelKnown; }
 
 public slots:
-    // The connect button: connects to the selected port, or disconnects.
+    // The connect button: connects to the port in the port box (a listed port
+    // or a typed path, used as it stands), or disconnects.
     void toggleConnection();
+    // The user's disconnect; the same as shutdownLink().
     void disconnectLink();
+    // Closes the serial link: a running job is held and reset and the laser
+    // switched off ("!", 0x18, "M5"; "M5" alone after test fire), those bytes
+    // written before the port closes; then the panel shows "not connected"
+    // (left as it is in WiFi mode, whose link the window owns).
+    // Blocks until the port is closed (at most about 2 s). Idempotent and safe
+    // with no link or a lost port. Runs by itself when the application is about
+    // to quit and from the destructor; the window may call it when it closes.
+    void shutdownLink();
 
     void home();
     void goToOrigin();
@@ -94,6 +115,10 @@ signals:
 
 private:
     void onLinkResult(bool linked);
+    void onHandshakeFailed(const QString &port, const QString &reason);
+    void reportConnectFailure(const QString &text);
+    void appendConsole(const QString &text);
+    void ensureLink();
     void onStatus(const QString &text);
     void onSettings(const QMap<QString, QString> &info);
     void onLinkLost();
@@ -113,7 +138,8 @@ private:
     void connectPanel();
     void connectWatcher();
 
-    MachinePanel *m_panel;
+    QPointer<MachinePanel> m_panel;
+    PortChoice *m_portChoice = nullptr;
     QPointer<QWidget> m_dialogParent;
     Jk_com *m_com = nullptr;
     Chuan_Kou_Jian_Ce *m_watcher = nullptr;
@@ -126,6 +152,7 @@ private:
     double m_zTravel = 0.0;
     double m_laserMaxS = 1000.0;
     int m_runSeconds = 0;
+    int m_handshakeTimeoutMs = 5000;
     QTimer m_indicatorTimer;
     QTimer m_afterConnectTimer;
     QString m_wifiAddress;

@@ -32,7 +32,8 @@ void MachineController::connectPanel()
     connect(f.frame_Btn, &QPushButton::clicked, this, &MachineController::frameDesign);
     connect(f.fire_Btn, &QPushButton::toggled, this, &MachineController::testFire);
     connect(f.power_Box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, &f] {
-        if (f.fire_Btn->isChecked())
+        // While a job runs a new power would go into the job.
+        if (f.fire_Btn->isChecked() && !busy())
             sendTestFire();
     });
     QPushButton *pad[] = {f.jog0_Btn, f.jog1_Btn, f.jog2_Btn, f.jog3_Btn, f.jog4_Btn,
@@ -146,18 +147,27 @@ void MachineController::stop()
 void MachineController::testFire(bool on)
 {
     QPushButton *button = m_panel->form().fire_Btn;
-    // Switching the laser off is never refused.
-    if (on && !(linked() && notBusy(tr("设备运行中禁用此功能!")))) {
+    const bool connected = programState().connectionMode != lumitra::NotConnected;
+    // Either command would be queued into a running job, so both are refused
+    // while busy, and the button keeps showing what the laser does. Switching
+    // off without a link sends nothing: the link switched the laser off when
+    // it closed.
+    const bool allowed = on ? linked() && notBusy(tr("设备运行中禁用此功能!"))
+                            : !connected || notBusy(tr("设备运行中禁用此功能!"));
+    if (!allowed) {
         const QSignalBlocker block(button);
-        button->setChecked(false);
+        button->setChecked(!on);
         return;
     }
     if (on) {
         sendTestFire();
         return;
     }
-    if (programState().connectionMode != lumitra::NotConnected)
+    if (connected) {
         send(machine::testFireOffCommand(Link::Serial), machine::testFireOffCommand(Link::Wifi));
+        if (m_com)
+            m_com->setLaserOn(false);
+    }
     button->setText(tr("点火"));
 }
 
@@ -165,6 +175,8 @@ void MachineController::sendTestFire()
 {
     const QString s = machine::testFirePower(m_panel->form().power_Box->value(), m_laserMaxS);
     send(machine::testFireOnCommand(s), machine::testFireOnCommand(s));
+    if (programState().connectionMode == lumitra::SerialLink && m_com)
+        m_com->setLaserOn(true);
 }
 
 void MachineController::jog(int padIndex)

@@ -30,6 +30,10 @@ private slots:
     void classification();
     void statusText_data();
     void statusText();
+    void motionStates_data();
+    void motionStates();
+    void stopBeforeClosing_data();
+    void stopBeforeClosing();
     void lineAssembly_data();
     void lineAssembly();
     void wifiLinkInfo_data();
@@ -106,6 +110,53 @@ void TestGrblVocabulary::statusText()
     QFETCH(QString, report);
     QFETCH(QString, text);
     QCOMPARE(serial ? serialStatusText(report) : normaliseStatus(report), text);
+}
+
+void TestGrblVocabulary::motionStates_data()
+{
+    QTest::addColumn<QString>("report");
+    QTest::addColumn<bool>("motion");
+    QTest::newRow("run") << "<Run|MPos:1.000,2.000,0.000|FS:100,0>" << true;
+    QTest::newRow("hold with substate") << "<Hold:0|MPos:3.000,4.000,5.000|FS:0,0>" << true;
+    QTest::newRow("jog") << "<Jog|WPos:-1.000,-2.000,99.000|FS:500,0>" << true;
+    QTest::newRow("home, state only") << "<Home>" << true;
+    QTest::newRow("idle") << kIdleReport << false;
+    QTest::newRow("alarm") << "<Alarm|MPos:0.000,0.000,0.000|FS:0,0>" << false;
+    QTest::newRow("door") << "<Door:1|MPos:0.000,0.000,0.000|FS:0,0>" << false;
+    QTest::newRow("state word only starts with Run") << "<Running|MPos:0,0,0>" << false;
+    QTest::newRow("not a report") << "Run" << false;
+    QTest::newRow("empty report") << "<" << false;
+}
+
+void TestGrblVocabulary::motionStates()
+{
+    QFETCH(QString, report);
+    QFETCH(bool, motion);
+    QCOMPARE(lumitra::grbl::statusShowsMotion(report), motion);
+}
+
+void TestGrblVocabulary::stopBeforeClosing_data()
+{
+    QTest::addColumn<bool>("laserOn");
+    QTest::addColumn<bool>("busy");
+    QTest::addColumn<bool>("hold");
+    QTest::addColumn<bool>("reset");
+    QTest::addColumn<bool>("laserOff");
+    QTest::newRow("quiet machine: nothing") << false << false << false << false << false;
+    QTest::newRow("test fire: laser off only") << true << false << false << false << true;
+    QTest::newRow("job: hold, reset, laser off") << false << true << true << true << true;
+    QTest::newRow("both") << true << true << true << true << true;
+}
+
+void TestGrblVocabulary::stopBeforeClosing()
+{
+    QFETCH(bool, laserOn);
+    QFETCH(bool, busy);
+    const lumitra::grbl::StopBeforeClose stop = lumitra::grbl::stopBeforeClose(laserOn, busy);
+    QTEST(stop.hold, "hold");
+    QTEST(stop.reset, "reset");
+    QTEST(stop.laserOff, "laserOff");
+    QCOMPARE(stop.any(), laserOn || busy);
 }
 
 void TestGrblVocabulary::lineAssembly_data()

@@ -1,3 +1,4 @@
+#include "chuan_kou_jian_ce.h"
 #include "frame_area.h"
 #include "jk_com.h"
 #include "jk_tu_yuan.h"
@@ -6,9 +7,14 @@
 #include "machine_controller.h"
 #include "machine_panel.h"
 #include "message_box.h"
+#include "port_choice.h"
 #include "program_state.h"
 #include "stream_state.h"
 #include "ui_machine_panel.h"
+
+#include <QLineEdit>
+#include <atomic>
+#include <memory>
 
 using lumitra::programState;
 
@@ -28,6 +34,17 @@ private slots:
     void refusedWithoutLink();
     void whileBusy();
     void testFireFollowsPower();
+    void testFireRefusedWhileBusy_data();
+    void testFireRefusedWhileBusy();
+    void closingStopsTheLaser_data();
+    void closingStopsTheLaser();
+    void lostPortClosesQuietly_data();
+    void lostPortClosesQuietly();
+    void connectOutcomes_data();
+    void connectOutcomes();
+    void typedPortSurvivesWatcher_data();
+    void typedPortSurvivesWatcher();
+    void typedLinkConnects();
     void stopEmptiesTheStream();
     void alarmShowsOnceThenHomes();
     void runFileShowsIndicatorUntilIdle();
@@ -40,6 +57,12 @@ private slots:
 private:
     // Connects the controller to a started fake through the panel.
     bool connectTo(GrblFake &fake);
+    // Queues a line the fake acknowledges and waits until it arrived: every
+    // line queued before it has arrived too.
+    bool syncWith(GrblFake &fake);
+    // Busy as while a job runs: a Run report from the fake (serial), or the
+    // WiFi link's flag.
+    bool makeBusy(GrblFake &fake, bool wifi);
     QStringList linesAfterConnect(const GrblFake &fake) const { return fake.lines().mid(2); }
 
     QList<lumitra::MessageRequest> m_messages;
@@ -222,6 +245,329 @@ void TestMachineController::testFireFollowsPower()
                  (QStringList{"M3S20G1F1000", "M3S50G1F1000", "M5S0G0F1000"}));
     QTest::qWait(50);
     QCOMPARE(fake.lineCount(), 5);
+}
+
+bool TestMachineController::syncWith(GrblFake &fake)
+{
+    m_controller->link()->queueText("G4P0");
+    return QTest::qWaitFor([&] { return fake.lines().endsWith("G4P0"); });
+}
+
+bool TestMachineController::makeBusy(GrblFake &fake, bool wifi)
+{
+    if (wifi) {
+        m_controller->setWifiBusy(true);
+        return m_controller->busy();
+    }
+    QSignalSpy busy(m_controller.get(), &MachineController::busyChanged);
+    fake.sendRaw("<Run|MPos:1.000,2.000,0.000|FS:100,0>\r\n");
+    return busy.wait(2000) && m_controller->busy();
+}
+
+void TestMachineController::testFireRefusedWhileBusy_data()
+{
+    QTest::addColumn<bool>("wifi");
+    QTest::addColumn<bool>("firingBefore"); // switched on before the job ran
+    QTest::newRow("serial, on refused") << false << false;
+    QTest::newRow("serial, off refused") << false << true;
+    QTest::newRow("wifi, on refused") << true << false;
+    QTest::newRow("wifi, off refused") << true << true;
+}
+
+void TestMachineController::testFireRefusedWhileBusy()
+{
+    QFETCH(bool, wifi);
+    QFETCH(bool, firingBefore);
+    Ui::MachinePanel &f = m_panel->form();
+    GrblFake fake;
+    QSignalSpy urls(m_controller.get(), &MachineController::wifiCommand);
+    if (wifi) {
+        programState().connectionMode = lumitra::WifiLink;
+        m_controller->setWifiAddress("127.0.0.1");
+    } else {
+        QVERIFY(connectTo(fake));
+    }
+    if (firingBefore) {
+        f.fire_Btn->click();
+        QVERIFY(f.fire_Btn->isChecked());
+    }
+    const int urlsBefore = urls.count();
+    QVERIFY(makeBusy(fake, wifi));
+
+    f.fire_Btn->click();
+    QCOMPARE(m_messages.size(), 1);
+    QCOMPARE(m_messages.first().message, QString("设备运行中禁用此功能!"));
+    // The button still shows what the laser does.
+    QCOMPARE(f.fire_Btn->isChecked(), firingBefore);
+    f.power_Box->setValue(f.power_Box->value() + 3); // no new power into the job either
+    QCOMPARE(urls.count(), urlsBefore);
+    if (!wifi) {
+        QVERIFY(syncWith(fake));
+        const QStringList expected =
+            firingBefore ? QStringList{"M3S10G1F1000", "G4P0"} : QStringList{"G4P0"};
+        QCOMPARE(linesAfterConnect(fake), expected);
+        QCOMPARE(m_controller->link()->laserOn(), firingBefore);
+    }
+}
+
+void TestMachineController::closingStopsTheLaser_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<bool>("job"); // a job runs, else test fire is on
+    for (const char *how : {"disconnect button", "shutdownLink", "application quits",
+                            "controller destroyed", "new connect replaces the link"}) {
+        QTest::newRow(qPrintable(QString("%1, test fire").arg(how))) << QString(how) << false;
+        QTest::newRow(qPrintable(QString("%1, job").arg(how))) << QString(how) << true;
+    }
+}
+
+void TestMachineController::closingStopsTheLaser()
+{
+    QFETCH(QString, how);
+    QFETCH(bool, job);
+    QTemporaryDir dir;
+    GrblFake::Options o;
+    o.bytesPerSecond = 11520.0; // the job is still streaming when the link closes
+    o.resetBootMs = 50;         // what arrives during the restart after 0x18 is lost
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    if (job) {
+        m_controller->runJob(writeJobFile(dir, 20000));
+        QTRY_VERIFY(fake.lineCount() > 30);
+    } else {
+        m_panel->form().fire_Btn->click();
+        QTRY_COMPARE(linesAfterConnect(fake), QStringList{"M3S10G1F1000"});
+    }
+
+    Jk_com *link = m_controller->link();
+    if (how == "disconnect button") {
+        m_panel->form().connect_Btn->click();
+    } else if (how == "shutdownLink") {
+        m_controller->shutdownLink();
+        m_controller->shutdownLink(); // twice: nothing more happens
+    } else if (how == "application quits") {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        qApp->exec(); // returns after aboutToQuit
+    } else if (how == "controller destroyed") {
+        m_controller.reset();
+        link = nullptr;
+    } else {
+        QVERIFY(!link->connectPort("/nonexistent/lumitra-port"));
+    }
+    if (link)
+        QVERIFY(!link->isOpen());
+    if (m_controller && how != "new connect replaces the link")
+        QVERIFY(!m_panel->form().fire_Btn->isChecked());
+
+    // Written before the port closed: nothing can be written after it.
+    QTRY_VERIFY(fake.lines().endsWith("M5"));
+    const QByteArray wire = fake.received();
+    const int laserOff = wire.lastIndexOf("M5\n");
+    if (job) {
+        const int hold = wire.lastIndexOf('!');
+        const int reset = wire.lastIndexOf(char(0x18));
+        QVERIFY(hold >= 0);
+        QVERIFY2(hold < reset && reset < laserOff, wire.right(40).toHex().constData());
+        QCOMPARE(fake.resetCount(), 1);
+        // Nothing of the job after the reset.
+        QCOMPARE(wire.mid(reset + 1).replace("?", ""), QByteArray("M5\n"));
+    } else {
+        QVERIFY(!wire.contains('!'));
+        QCOMPARE(fake.resetCount(), 0);
+        QCOMPARE(linesAfterConnect(fake), (QStringList{"M3S10G1F1000", "M5"}));
+    }
+    QCOMPARE(wire.count("M5\n"), 1);
+    QVERIFY(!fake.overrun());
+}
+
+void TestMachineController::lostPortClosesQuietly_data()
+{
+    QTest::addColumn<bool>("job");
+    QTest::newRow("test fire on") << false;
+    QTest::newRow("job running") << true;
+}
+
+void TestMachineController::lostPortClosesQuietly()
+{
+    QFETCH(bool, job);
+    QTemporaryDir dir;
+    GrblFake::Options o;
+    o.bytesPerSecond = 11520.0;
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    if (job) {
+        m_controller->runJob(writeJobFile(dir, 20000));
+        QTRY_VERIFY(fake.lineCount() > 30);
+    } else {
+        m_panel->form().fire_Btn->click();
+        QTRY_COMPARE(linesAfterConnect(fake), QStringList{"M3S10G1F1000"});
+    }
+    QSignalSpy changed(m_controller.get(), &MachineController::connectionChanged);
+    fake.closeFarEnd();
+    QVERIFY(changed.wait(3000));
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QVERIFY(!m_panel->form().fire_Btn->isChecked());
+    QVERIFY(!m_controller->link()->isOpen());
+    // Nothing to write to: closing again and destroying neither crash nor hang.
+    m_controller->shutdownLink();
+    m_controller.reset();
+    QVERIFY(m_messages.isEmpty());
+}
+
+void TestMachineController::connectOutcomes_data()
+{
+    QTest::addColumn<QString>("port"); // "fake": the fake's port
+    QTest::addColumn<bool>("answer");  // the fake answers "$i"
+    QTest::addColumn<bool>("unplug");  // the fake goes away during the handshake
+    QTest::addColumn<QString>("text"); // console line and message; "%1" the port
+    QTest::addColumn<bool>("message");
+
+    QTest::newRow("linked") << "fake" << true << false << "已连接到串口 %1" << false;
+    QTest::newRow("empty port box") << "" << true << false << "请选择或输入串口!" << true;
+    QTest::newRow("port does not open")
+        << "/nonexistent/lumitra-port" << true << false << "无法打开串口 %1:" << true;
+    QTest::newRow("no GRBL answer")
+        << "fake" << false << false << "串口 %1 上的设备没有作为GRBL控制器应答!" << true;
+    QTest::newRow("port fails during the handshake")
+        << "fake" << false << true << "串口 %1 在连接时出错:" << true;
+}
+
+void TestMachineController::connectOutcomes()
+{
+    QFETCH(QString, port);
+    QFETCH(bool, answer);
+    QFETCH(bool, unplug);
+    QFETCH(QString, text);
+    QFETCH(bool, message);
+    GrblFake::Options o;
+    o.answerIdentify = answer;
+    GrblFake fake(o);
+    if (port == "fake") {
+        QVERIFY(fake.start());
+        port = fake.portName();
+    }
+    const QString expected = text.contains("%1") ? text.arg(port) : text;
+    Ui::MachinePanel &f = m_panel->form();
+    QTest::keyClicks(f.port_Box->lineEdit(), port);
+    m_controller->setHandshakeTimeout(unplug ? 60000 : 300);
+    f.connect_Btn->click();
+    if (unplug) {
+        QTRY_COMPARE(fake.lines(), QStringList{"$i"});
+        fake.closeFarEnd();
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!f.console_Edit->toPlainText().isEmpty(), 3000);
+    const QString console = f.console_Edit->toPlainText();
+    QVERIFY2(console.startsWith(expected), qPrintable(console));
+    QCOMPARE(console.count('\n'), 0); // one line per attempt
+    if (!message) {
+        QCOMPARE(programState().connectionMode, int(lumitra::SerialLink));
+        QVERIFY(m_messages.isEmpty());
+        return;
+    }
+    QCOMPARE(m_messages.size(), 1);
+    QCOMPARE(m_messages.first().message, console);
+    QCOMPARE(m_messages.first().title, QString("提示"));
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QCOMPARE(f.connect_Btn->text(), QString("连接"));
+    if (expected.endsWith(":")) {
+        // The system's reason follows the port.
+        QVERIFY(console.size() > expected.size());
+        QCOMPARE(console.mid(expected.size()), m_controller->link()->lastError());
+    }
+}
+
+void TestMachineController::typedPortSurvivesWatcher_data()
+{
+    QTest::addColumn<QStringList>("listed"); // entries before the change
+    QTest::addColumn<bool>("type");          // the user types "/dev/typed"
+    QTest::addColumn<QString>("change");     // append, remove0, select
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("typed, first entry appended") << QStringList{} << true << "append"
+                                                 << "/dev/typed";
+    QTest::newRow("typed, entry appended") << QStringList{"A"} << true << "append"
+                                           << "/dev/typed";
+    QTest::newRow("typed, current entry removed") << QStringList{"A", "B"} << true << "remove0"
+                                                  << "/dev/typed";
+    QTest::newRow("typed, last entry removed") << QStringList{"A"} << true << "remove0"
+                                               << "/dev/typed";
+    QTest::newRow("typed, watcher selects") << QStringList{"A", "N"} << true << "select"
+                                            << "/dev/typed";
+    QTest::newRow("picked, watcher selects") << QStringList{"A", "N"} << false << "select"
+                                             << "N";
+    QTest::newRow("picked, first entry appended") << QStringList{} << false << "append"
+                                                  << "N";
+    QTest::newRow("picked, current entry removed") << QStringList{"A", "B"} << false << "remove0"
+                                                   << "B";
+}
+
+void TestMachineController::typedPortSurvivesWatcher()
+{
+    QFETCH(QStringList, listed);
+    QFETCH(bool, type);
+    QFETCH(QString, change);
+    QFETCH(QString, shown);
+    QComboBox *box = m_panel->form().port_Box;
+    PortChoice *choice = m_controller->portChoice();
+    QVERIFY(box->isEditable());
+    for (const QString &port : listed)
+        choice->appendPort(port);
+    if (type) {
+        box->lineEdit()->selectAll(); // typing replaces the entry shown
+        QTest::keyClicks(box->lineEdit(), "/dev/typed");
+    }
+    QCOMPARE(choice->typed(), type);
+    if (change == "append")
+        choice->appendPort("N");
+    else if (change == "remove0")
+        choice->removePortAt(0);
+    else
+        choice->autoSelect("N");
+    QCOMPARE(box->currentText(), shown);
+    QCOMPARE(choice->port(), shown);
+    QVERIFY(box->findText("/dev/typed") < 0); // never added to the list
+
+    if (type) {
+        // Picking an entry hands the box back to the watcher.
+        const int row = box->count() - 1;
+        box->setCurrentIndex(row);
+        emit box->activated(row);
+        QVERIFY(!choice->typed());
+        choice->autoSelect("N");
+        QCOMPARE(choice->port(), QString("N"));
+    }
+}
+
+void TestMachineController::typedLinkConnects()
+{
+    GrblFake fake;
+    QVERIFY(fake.start());
+    QTemporaryDir dir;
+    const QString typed = dir.filePath("usb-Lumitra_GRBL-if00-port0");
+    QVERIFY(QFile::link(fake.portName(), typed));
+    Ui::MachinePanel &f = m_panel->form();
+    QTest::keyClicks(f.port_Box->lineEdit(), typed);
+
+    // The watcher lists the real device, probes it and selects it: what the
+    // user typed stays.
+    // The port appears in the watcher's second round, once the spy listens.
+    const QString listed = fake.portName();
+    auto present = std::make_shared<std::atomic_bool>(false);
+    m_controller->startPortWatcher(
+        [listed, present] { return *present ? QStringList{listed} : QStringList{}; });
+    QSignalSpy selected(m_controller->portWatcher(), &Chuan_Kou_Jian_Ce::selectPort);
+    *present = true;
+    QTRY_COMPARE_WITH_TIMEOUT(selected.count(), 2, 5000);
+    QCoreApplication::processEvents();
+    QCOMPARE(f.port_Box->count(), 1);
+    QCOMPARE(f.port_Box->currentText(), typed);
+
+    f.connect_Btn->click();
+    QTRY_COMPARE(programState().connectionMode, int(lumitra::SerialLink));
+    QCOMPARE(m_controller->link()->portName(), typed); // not resolved
+    QTRY_COMPARE(fake.lines(), (QStringList{"AT", "$i", "$H"}));
+    QVERIFY(m_messages.isEmpty());
+    QCOMPARE(f.console_Edit->toPlainText(), "已连接到串口 " + typed);
 }
 
 void TestMachineController::stopEmptiesTheStream()

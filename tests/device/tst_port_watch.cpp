@@ -50,6 +50,9 @@ void TestPortWatch::sync_data()
     QTest::newRow("unlinked port gone is no loss")
         << QStringList{} << QStringList{"A"} << 0 << "A" << true << QStringList{} << QList<int>{0}
         << QStringList{} << false << "";
+    QTest::newRow("typed port never listed is no loss")
+        << QStringList{"B"} << QStringList{"A", "B"} << 1 << "/dev/serial/by-id/usb-x" << true
+        << QStringList{} << QList<int>{0} << QStringList{"B"} << false << "";
     QTest::newRow("wifi mode is no loss")
         << QStringList{} << QStringList{"A"} << 2 << "A" << true << QStringList{} << QList<int>{0}
         << QStringList{} << false << "";

@@ -56,6 +56,7 @@ struct GrblFake::Impl
     QStringList lines;
     int lineCount = 0;
     QByteArray realTime;
+    QByteArray all; // every byte read, when lines are recorded
     int resets = 0;
     QMap<int, QByteArray> replies;
     QMap<int, int> alarms;
@@ -109,10 +110,20 @@ struct GrblFake::Impl
             headReadyAt = -1.0;
             held = false;
             setBusyUntil(t);
+            if (opt.resetBootMs > 0) {
+                bootUntil = t + opt.resetBootMs / 1000.0;
+                return; // the banner comes when the boot ends
+            }
             say("\r\n" + banner() + "\r\n");
             if (alarm)
                 say("[MSG:'$H'|'$X' to unlock]\r\n");
         }
+    }
+
+    void endBoot()
+    {
+        bootUntil = -1.0;
+        say(banner() + "\r\n");
     }
 
     void arrive(const WireByte &b)
@@ -122,8 +133,11 @@ struct GrblFake::Impl
             firstByteSeen = true;
             bootUntil = b.arrival + opt.bootMs / 1000.0;
         }
-        if (bootUntil >= 0.0)
-            return; // lost while the board boots
+        if (bootUntil >= 0.0) {
+            if (b.arrival < bootUntil)
+                return; // lost while the board boots
+            endBoot();
+        }
         if (b.byte == '?' || b.byte == '!' || b.byte == '~' || b.byte == 0x18) {
             onRealTime(b.byte, b.arrival);
         } else if (int(rx.size()) >= opt.receiveBuffer - 1) {
@@ -243,10 +257,8 @@ struct GrblFake::Impl
             if (b.byte == '\n' || headReadyAt >= 0.0)
                 processDueLines(b.arrival);
         }
-        if (bootUntil >= 0.0 && t >= bootUntil) {
-            bootUntil = -1.0;
-            say(banner() + "\r\n");
-        }
+        if (bootUntil >= 0.0 && t >= bootUntil)
+            endBoot();
         processDueLines(t);
         double next = wire.empty() ? kNever : wire.front().arrival;
         if (bootUntil >= 0.0)
@@ -261,6 +273,10 @@ struct GrblFake::Impl
         char buf[4096];
         ssize_t n;
         while ((n = ::read(master, buf, sizeof buf)) > 0) {
+            if (opt.recordLines) {
+                std::lock_guard<std::mutex> lock(mutex);
+                all.append(buf, int(n));
+            }
             for (ssize_t i = 0; i < n; ++i) {
                 double at = t;
                 if (opt.bytesPerSecond > 0.0)
@@ -418,6 +434,10 @@ int GrblFake::lineCount() const
 QByteArray GrblFake::realTimeBytes() const
 {
     return locked(d->mutex, d->realTime);
+}
+QByteArray GrblFake::received() const
+{
+    return locked(d->mutex, d->all);
 }
 int GrblFake::resetCount() const
 {

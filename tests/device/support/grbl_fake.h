@@ -30,6 +30,9 @@ public:
         // port opens): bytes within bootMs are lost, then the banner is printed.
         bool resetOnFirstByte = false;
         int bootMs = 0;
+        // A soft reset (0x18) restarts the board: bytes within this time are
+        // lost, then the banner is printed. 0: the banner follows at once.
+        int resetBootMs = 0;
         bool answerIdentify = true; // false: "$i" gets no answer at all
         QString model;              // reported in the "$I" answer when set
         QMap<int, QString> settings = defaultSettings();
@@ -66,6 +69,7 @@ public:
     bool overrun() const;
     int peakWaiting() const;      // most bytes ever waiting in the receive buffer
     qint64 bytesReceived() const; // every byte that arrived, real-time ones included
+    QByteArray received() const;  // those bytes in arrival order (when lines are recorded)
     bool inAlarm() const;         // raised and not yet unlocked
     bool moving() const;          // the state would read Run now
 
