@@ -24,15 +24,19 @@
 #include "recent_files_menu.h"
 #include "rotation_field.h"
 #include "tu_ceng_zhi.h"
+#include "wheel_guard.h"
 #include "window_title.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFile>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QUndoStack>
+#include <algorithm>
 
 using namespace lumitra;
 
@@ -40,6 +44,9 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
 {
     ui->setupUi(this);
     setWindowTitle(QStringLiteral("Lumitra"));
+    // Boxes of the panels change only when focused; the wheel elsewhere
+    // scrolls the panel or zooms the canvas.
+    lumitra::guardWheel(this);
 
     m_language = new LanguageController(this);
     ui->language_Btn->setMenu(m_language->menu());
@@ -48,8 +55,10 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     connect(
         m_language, &LanguageController::quitRequested, this,
         [this](int exitCode) {
-            if (confirmQuit())
-                emit quitRequested(exitCode);
+            if (!confirmQuit())
+                return;
+            m_machine->shutdownLink();
+            emit quitRequested(exitCode);
         },
         Qt::QueuedConnection);
 
@@ -60,6 +69,7 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     setupJobs();
     setupMachine();
     buildFileMenu();
+    arrangePanels();
 
     setUnsavedListener([this](bool) { updateTitle(); });
     connect(m_project, &ProjectCommands::currentPathChanged, this, &Widget::updateTitle);
@@ -70,6 +80,23 @@ Widget::~Widget()
 {
     setUnsavedListener({});
     delete ui;
+}
+
+void Widget::arrangePanels()
+{
+    // The side panels scroll vertically when the window is short, never
+    // sideways: the tabs are as wide as the widest panel needs.
+    int panelWidth = 0;
+    for (QScrollArea *area : {ui->layerScroll, ui->machineScroll}) {
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        panelWidth = std::max(panelWidth, area->widget()->minimumSizeHint().width()
+                                              + area->verticalScrollBar()->sizeHint().width());
+    }
+    ui->sideTabs->setMinimumWidth(panelWidth + 4);
+    // The canvas takes what the window gains.
+    ui->mainSplitter->setStretchFactor(0, 0);
+    ui->mainSplitter->setStretchFactor(1, 1);
+    ui->mainSplitter->setStretchFactor(2, 0);
 }
 
 void Widget::updateTitle()
@@ -276,5 +303,7 @@ void Widget::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    // The laser goes off (and a running job stops) before the window goes.
+    m_machine->shutdownLink();
     event->accept();
 }

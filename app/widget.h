@@ -66,6 +66,7 @@ protected:
 
 private:
     void buildFileMenu();
+    void arrangePanels();
     void updateTitle();
     void setupDesign();
     void setupLayers();

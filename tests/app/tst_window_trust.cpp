@@ -3,12 +3,15 @@
 #include "window_driver.h"
 
 #include "gcode_job_controller.h"
+#include "grbl_fake.h"
 #include "import_actions.h"
 #include "importer_registry.h"
 #include "job_simulator.h"
 #include "language_controller.h"
 #include "layer_list.h"
 #include "layer_panel_controller.h"
+#include "layer_rows_panel.h"
+#include "machine_controller.h"
 #include "path_parts.h"
 #include "program_state.h"
 #include "project_commands.h"
@@ -16,14 +19,22 @@
 #include "recent_files_menu.h"
 #include "settings_store.h"
 #include "tu_ceng.h"
+#include "tu_ceng_item2.h"
 
 #include <QBuffer>
+#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QLayout>
 #include <QMenu>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QTranslator>
 #include <QUndoStack>
+#include <QWheelEvent>
 
 using namespace lumitra;
 using namespace window_test;
@@ -36,6 +47,14 @@ QByteArray jobBytes(Widget &w, const QString &path)
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
+QByteArray recordBytes(const TuCeng &l)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    writeTuCeng(out, l);
+    return bytes;
+}
+
 // The moves of a job that burn, machine coordinates.
 QList<JobSimulator::Move> burns(const QByteArray &job)
 {
@@ -399,6 +418,183 @@ private slots:
         QVERIFY(!w.jobController()->prepareRun(d.scene()->designItems()));
         QCOMPARE(m_asked.requests.size(), 1);
         QCOMPARE(m_asked.requests.first().message, q.message);
+    }
+
+    // The window could not be smaller than about 1012 px high: at 1280x720
+    // the jog pad, progress, console, palette and the bottom of the canvas
+    // were off-screen, and the layer list showed under three rows.
+    void windowFits1280x720_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("source texts") << QString();
+        QTest::newRow("English") << QStringLiteral("yw");
+    }
+    void windowFits1280x720()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        if (!language.isEmpty()) {
+            QVERIFY(
+                translator.load(QStringLiteral(":/language/") + language + QStringLiteral("2.qm")));
+            QCoreApplication::installTranslator(&translator);
+        }
+        Widget w;
+        const QSize least = w.minimumSizeHint().expandedTo(w.minimumSize());
+        QVERIFY2(least.width() <= 1280 && least.height() <= 720,
+                 qPrintable(QStringLiteral("%1x%2").arg(least.width()).arg(least.height())));
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QCOMPARE(w.size(), QSize(1280, 720));
+        Driver d(&w);
+        for (int i = 0; i < 7; ++i) { // seven layers, one item each
+            d.drawRectangle(QPointF(20 + 40 * i, -20), QPointF(50 + 40 * i, -50));
+            w.layerController()->moveSelectionToLayer(i);
+        }
+        Driver::settle();
+
+        // Everything is on screen, or in a scroll area on screen that
+        // reaches it; nothing is cut off by the window's edge.
+        const QRect window = w.rect();
+        const auto reachable = [&](QWidget *c) {
+            for (QWidget *p = c->parentWidget(); p && p != &w; p = p->parentWidget()) {
+                if (auto *area = qobject_cast<QScrollArea *>(p))
+                    if (area->widget()->isAncestorOf(c))
+                        return window.contains(QRect(area->mapTo(&w, QPoint()), area->size()));
+            }
+            return window.contains(QRect(c->mapTo(&w, QPoint()), c->size()));
+        };
+        QStringList names{"progress_Bar", "console_Edit", "connect_Btn", "port_Box",
+                          "stop_Btn",     "fire_Btn",     "start_Btn",   "selection_Lab"};
+        for (int i = 0; i < 9; ++i)
+            names << QStringLiteral("jog%1_Btn").arg(i);
+        for (int i = 0; i < 30; ++i)
+            names << QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0'));
+        for (const QString &name : names) {
+            QWidget *c = w.findChild<QWidget *>(name);
+            QVERIFY2(c, qPrintable(name));
+            QVERIFY2(reachable(c), qPrintable(name));
+        }
+        const QRect view(d.view()->mapTo(&w, QPoint()), d.view()->size());
+        QVERIFY(window.contains(view));
+        QVERIFY(view.height() >= 400);
+
+        // Six layer rows at least are in sight at once, none of them cut.
+        auto *rows = w.findChild<LayerRowsPanel *>();
+        QCOMPARE(rows->rows().size(), 7);
+        auto *scroll = child<QScrollArea>(&w, "layerScroll");
+        const QRect sight(scroll->viewport()->mapTo(&w, QPoint()), scroll->viewport()->size());
+        int inSight = 0;
+        for (TuCengItem2 *row : rows->rows()) {
+            QWidget *port = rows->scrollArea()->viewport();
+            const QRect r(row->mapTo(&w, QPoint()), row->size());
+            const QRect rowsSight(port->mapTo(&w, QPoint()), port->size());
+            if (sight.contains(r) && rowsSight.contains(r))
+                ++inSight;
+        }
+        QVERIFY2(inSight >= 6, qPrintable(QString::number(inSight)));
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    // The wheel over a layer row's mode box or the power box changed the
+    // job; layer settings could not be undone; a deleted layer row came back
+    // with default settings.
+    void layerSettingsAreSafeAndUndoable()
+    {
+        Widget w;
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QApplication::setActiveWindow(&w);
+        Driver d(&w);
+        d.drawRectangle(QPointF(20, -20), QPointF(60, -60));
+        d.drawRectangle(QPointF(80, -20), QPointF(120, -60));
+        w.layerController()->moveSelectionToLayer(3);
+        Driver::settle();
+        const auto records = [] {
+            QList<QByteArray> all;
+            for (const TuCeng *l : LayerList::instance().layers())
+                all << recordBytes(*l);
+            return all;
+        };
+        auto *rows = w.findChild<LayerRowsPanel *>();
+        QCOMPARE(rows->rows().size(), 2);
+        auto *power = child<QSpinBox>(&w, "gonglv_Box");
+        auto *mode = child<QComboBox>(rows->rows().first(), "moshi");
+
+        // The wheel over unfocused boxes scrolls on; the records stay.
+        d.view()->setFocus();
+        const QList<QByteArray> before = records();
+        for (QWidget *box : {static_cast<QWidget *>(mode), static_cast<QWidget *>(power)}) {
+            const QPoint at = box->rect().center();
+            QWheelEvent wheel(at, box->mapToGlobal(at), QPoint(), QPoint(0, -120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(box, &wheel);
+        }
+        QCOMPARE(records(), before);
+
+        // Typed settings are one undo step each, undone from the canvas.
+        power->setFocus();
+        power->selectAll();
+        QTest::keyClicks(power, QStringLiteral("55"));
+        QTest::keyClick(power, Qt::Key_Return);
+        Driver::settle();
+        QVERIFY(records() != before);
+        d.view()->setFocus();
+        QTest::keyClick(d.view(), Qt::Key_Z, Qt::ControlModifier);
+        Driver::settle();
+        QCOMPARE(records(), before);
+        QTest::keyClick(d.view(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        Driver::settle();
+        const QList<QByteArray> edited = records();
+        QVERIFY(edited != before);
+
+        // Deleting a row and undoing brings back its items and its record.
+        QTest::mouseClick(rows->rows().first()->deleteButton(), Qt::LeftButton);
+        Driver::settle();
+        QCOMPARE(LayerList::instance().layers().size(), 1);
+        QCOMPARE(d.scene()->designItemCount(), 1);
+        QTest::keyClick(d.view(), Qt::Key_Z, Qt::ControlModifier);
+        Driver::settle();
+        QCOMPARE(d.scene()->designItemCount(), 2);
+        QCOMPARE(records(), edited);
+    }
+
+    // Unchecking test fire while a job ran queued "M5S0G0F1000" into the job;
+    // quitting with test fire on left the laser burning. Through the window:
+    // connect by typing the port, fire, get busy, try to switch off, quit.
+    void testFireIsSafeFromTheWindow()
+    {
+        GrblFake fake;
+        QVERIFY(fake.start());
+        Widget w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        auto *port = child<QComboBox>(&w, "port_Box");
+        port->setEditText(fake.portName()); // typed, not picked from the list
+        child<QPushButton>(&w, "connect_Btn")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(programState().connectionMode, int(SerialLink), 5000);
+        auto *fire = child<QPushButton>(&w, "fire_Btn");
+        fire->click();
+        QTRY_VERIFY(fake.lines().contains(QStringLiteral("M3S10G1F1000")));
+
+        // A job runs: switching test fire off is refused and changes nothing.
+        QSignalSpy busy(w.machineController(), &MachineController::busyChanged);
+        fake.sendRaw("<Run|MPos:1.000,2.000,0.000|FS:100,0>\r\n");
+        QVERIFY(busy.wait(2000));
+        const int sent = fake.lineCount();
+        m_asked.requests.clear();
+        fire->click();
+        QCOMPARE(m_asked.messages(), QStringList{QStringLiteral("设备运行中禁用此功能!")});
+        QVERIFY(fire->isChecked());
+        QTest::qWait(50);
+        QCOMPARE(fake.lineCount(), sent);
+        QVERIFY(!fake.lines().contains(QStringLiteral("M5S0G0F1000")));
+
+        // Quitting stops the job and puts the laser out before the port closes.
+        QVERIFY(w.close()); // nothing drawn: no unsaved question
+        QVERIFY(fake.realTimeBytes().contains("!\x18"));
+        QTRY_VERIFY(fake.lines().contains(QStringLiteral("M5")));
     }
 
     // Saving and reopening used to reverse the stacking order, and with it
