@@ -10,10 +10,12 @@ bool close_guard(QWidget *parent, bool unsaved, int itemCount, const std::functi
 {
     if (!unsaved || itemCount <= 0)
         return true;
-    const auto tr = [](const char *text) { return QCoreApplication::translate("Widget", text); };
     const int answer =
-        show_message(parent, MessageKind::Question, tr("取消"), tr("确定"),
-                     save ? tr("保存") : QString(), tr("创作未保存,是否立即退出"), tr("提示"));
+        show_message(parent, MessageKind::Question, QCoreApplication::translate("Widget", "取消"),
+                     QCoreApplication::translate("Widget", "确定"),
+                     save ? QCoreApplication::translate("Widget", "保存") : QString(),
+                     QCoreApplication::translate("Widget", "创作未保存,是否立即退出"),
+                     QCoreApplication::translate("Widget", "提示"));
     if (answer == 2)
         return save && save();
     return answer == 1;

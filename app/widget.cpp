@@ -230,8 +230,11 @@ void Widget::startJob()
         show_notice(this, tr("设备雕刻中,暂时停止使用!"));
         return;
     }
-    if (m_jobs->prepareRun(currentDesignItems()))
-        m_machine->runJob(programState().jobFilePath);
+    if (!m_jobs->prepareRun(currentDesignItems()))
+        return;
+    m_machine->runJob(programState().jobFilePath);
+    // Progress, pause and stop are on the machine tab.
+    ui->sideTabs->setCurrentWidget(ui->machineTab);
 }
 
 QList<Jk_tu_yuan *> Widget::currentDesignItems() const

@@ -117,6 +117,18 @@
         <source>修改图层</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>修改图层参数</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移动图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除图层</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DesignPages</name>
@@ -348,6 +360,25 @@
         <source>生成G代码失败!</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>……还有 %1 个</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
+%4
+
+是否继续?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
@@ -409,6 +440,17 @@
     </message>
     <message>
         <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ImportActions</name>
+    <message>
+        <source>请先选择一张位图!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位图中没有可描摹的轮廓!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -597,6 +639,26 @@
         <source>Files (*.nc);;Files (*.gcode)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>请选择或输入串口!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法打开串口 %1:%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>串口 %1 在连接时出错:%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已连接到串口 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MachinePanel</name>
@@ -771,6 +833,50 @@
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>保存失败: %1
+%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件不存在: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不支持的文件格式: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件无法导入,里面没有可用的图形: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法打开文件: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件已损坏或不是项目文件,无法打开: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件已损坏,只打开了其中完整的部分: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecentFilesMenu</name>
+    <message>
+        <source>最近打开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(无)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清除列表</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SvgImport</name>
@@ -842,6 +948,14 @@
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上移图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下移图层</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -943,22 +1057,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>取消</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>提示</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>没有可预览的图形!</source>
         <translation type="unfinished"></translation>
     </message>
@@ -988,6 +1086,38 @@
     </message>
     <message>
         <source>编辑</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未命名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>创作未保存,是否立即退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -117,6 +117,18 @@
         <source>修改图层</source>
         <translation>Change layer</translation>
     </message>
+    <message>
+        <source>修改图层参数</source>
+        <translation>Change layer settings</translation>
+    </message>
+    <message>
+        <source>移动图层</source>
+        <translation>Move layer</translation>
+    </message>
+    <message>
+        <source>删除图层</source>
+        <translation>Delete layer</translation>
+    </message>
 </context>
 <context>
     <name>DesignPages</name>
@@ -348,6 +360,28 @@
         <source>生成G代码失败!</source>
         <translation>Generating G-code failed!</translation>
     </message>
+    <message>
+        <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
+        <translation>Layer %1: X %2..%3, Y %4..%5 mm</translation>
+    </message>
+    <message>
+        <source>……还有 %1 个</source>
+        <translation>…and %1 more</translation>
+    </message>
+    <message>
+        <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
+%4
+
+是否继续?</source>
+        <translation>%1 shape(s) lie outside the work area (%2 × %3 mm); the machine may hit its limits or burn beyond the bed:
+%4
+
+Continue?</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Continue</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
@@ -410,6 +444,17 @@
     <message>
         <source>确定</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ImportActions</name>
+    <message>
+        <source>请先选择一张位图!</source>
+        <translation>Select one bitmap first!</translation>
+    </message>
+    <message>
+        <source>位图中没有可描摹的轮廓!</source>
+        <translation>The bitmap has no outline to trace!</translation>
     </message>
 </context>
 <context>
@@ -597,6 +642,26 @@
         <source>Files (*.nc);;Files (*.gcode)</source>
         <translation>Files (*.nc);;Files (*.gcode)</translation>
     </message>
+    <message>
+        <source>请选择或输入串口!</source>
+        <translation>Choose or type a serial port!</translation>
+    </message>
+    <message>
+        <source>无法打开串口 %1:%2</source>
+        <translation>Cannot open serial port %1: %2</translation>
+    </message>
+    <message>
+        <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
+        <translation>The device on serial port %1 did not answer as a GRBL controller!</translation>
+    </message>
+    <message>
+        <source>串口 %1 在连接时出错:%2</source>
+        <translation>Serial port %1 failed while connecting: %2</translation>
+    </message>
+    <message>
+        <source>已连接到串口 %1</source>
+        <translation>Connected to serial port %1</translation>
+    </message>
 </context>
 <context>
     <name>MachinePanel</name>
@@ -771,6 +836,51 @@
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
         <translation>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
+    <message>
+        <source>保存失败: %1
+%2</source>
+        <translation>Saving failed: %1
+%2</translation>
+    </message>
+    <message>
+        <source>文件不存在: %1</source>
+        <translation>The file does not exist: %1</translation>
+    </message>
+    <message>
+        <source>不支持的文件格式: %1</source>
+        <translation>Unsupported file type: %1</translation>
+    </message>
+    <message>
+        <source>文件无法导入,里面没有可用的图形: %1</source>
+        <translation>The file cannot be imported; it holds no usable shapes: %1</translation>
+    </message>
+    <message>
+        <source>无法打开文件: %1</source>
+        <translation>Cannot open the file: %1</translation>
+    </message>
+    <message>
+        <source>文件已损坏或不是项目文件,无法打开: %1</source>
+        <translation>The file is damaged or not a project file and cannot be opened: %1</translation>
+    </message>
+    <message>
+        <source>文件已损坏,只打开了其中完整的部分: %1</source>
+        <translation>The file is damaged; only its intact part was opened: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFilesMenu</name>
+    <message>
+        <source>最近打开</source>
+        <translation>Open recent</translation>
+    </message>
+    <message>
+        <source>(无)</source>
+        <translation>(none)</translation>
+    </message>
+    <message>
+        <source>清除列表</source>
+        <translation>Clear list</translation>
+    </message>
 </context>
 <context>
     <name>SvgImport</name>
@@ -843,6 +953,14 @@
     <message>
         <source>删除</source>
         <translation>Delete</translation>
+    </message>
+    <message>
+        <source>上移图层</source>
+        <translation>Move layer up</translation>
+    </message>
+    <message>
+        <source>下移图层</source>
+        <translation>Move layer down</translation>
     </message>
 </context>
 <context>
@@ -943,22 +1061,6 @@
         <translation>View</translation>
     </message>
     <message>
-        <source>取消</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>创作未保存,是否立即退出</source>
-        <translation>Your work is not saved. Quit anyway?</translation>
-    </message>
-    <message>
-        <source>提示</source>
-        <translation>Notice</translation>
-    </message>
-    <message>
         <source>没有可预览的图形!</source>
         <translation>Nothing to preview!</translation>
     </message>
@@ -989,6 +1091,38 @@
     <message>
         <source>编辑</source>
         <translation>Edit</translation>
+    </message>
+    <message>
+        <source>图层</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>未命名</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>创作未保存,是否立即退出</source>
+        <translation>The design is not saved. Quit now?</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
     </message>
 </context>
 <context>

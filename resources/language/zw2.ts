@@ -117,6 +117,18 @@
         <source>修改图层</source>
         <translation>修改图层</translation>
     </message>
+    <message>
+        <source>修改图层参数</source>
+        <translation>修改图层参数</translation>
+    </message>
+    <message>
+        <source>移动图层</source>
+        <translation>移动图层</translation>
+    </message>
+    <message>
+        <source>删除图层</source>
+        <translation>删除图层</translation>
+    </message>
 </context>
 <context>
     <name>DesignPages</name>
@@ -348,6 +360,28 @@
         <source>生成G代码失败!</source>
         <translation>生成G代码失败!</translation>
     </message>
+    <message>
+        <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
+        <translation>图层 %1: X %2..%3, Y %4..%5 mm</translation>
+    </message>
+    <message>
+        <source>……还有 %1 个</source>
+        <translation>……还有 %1 个</translation>
+    </message>
+    <message>
+        <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
+%4
+
+是否继续?</source>
+        <translation>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
+%4
+
+是否继续?</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>继续</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
@@ -410,6 +444,17 @@
     <message>
         <source>确定</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ImportActions</name>
+    <message>
+        <source>请先选择一张位图!</source>
+        <translation>请先选择一张位图!</translation>
+    </message>
+    <message>
+        <source>位图中没有可描摹的轮廓!</source>
+        <translation>位图中没有可描摹的轮廓!</translation>
     </message>
 </context>
 <context>
@@ -597,6 +642,26 @@
         <source>Files (*.nc);;Files (*.gcode)</source>
         <translation>Files (*.nc);;Files (*.gcode)</translation>
     </message>
+    <message>
+        <source>请选择或输入串口!</source>
+        <translation>请选择或输入串口!</translation>
+    </message>
+    <message>
+        <source>无法打开串口 %1:%2</source>
+        <translation>无法打开串口 %1:%2</translation>
+    </message>
+    <message>
+        <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
+        <translation>串口 %1 上的设备没有作为GRBL控制器应答!</translation>
+    </message>
+    <message>
+        <source>串口 %1 在连接时出错:%2</source>
+        <translation>串口 %1 在连接时出错:%2</translation>
+    </message>
+    <message>
+        <source>已连接到串口 %1</source>
+        <translation>已连接到串口 %1</translation>
+    </message>
 </context>
 <context>
     <name>MachinePanel</name>
@@ -771,6 +836,51 @@
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
         <translation>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
+    <message>
+        <source>保存失败: %1
+%2</source>
+        <translation>保存失败: %1
+%2</translation>
+    </message>
+    <message>
+        <source>文件不存在: %1</source>
+        <translation>文件不存在: %1</translation>
+    </message>
+    <message>
+        <source>不支持的文件格式: %1</source>
+        <translation>不支持的文件格式: %1</translation>
+    </message>
+    <message>
+        <source>文件无法导入,里面没有可用的图形: %1</source>
+        <translation>文件无法导入,里面没有可用的图形: %1</translation>
+    </message>
+    <message>
+        <source>无法打开文件: %1</source>
+        <translation>无法打开文件: %1</translation>
+    </message>
+    <message>
+        <source>文件已损坏或不是项目文件,无法打开: %1</source>
+        <translation>文件已损坏或不是项目文件,无法打开: %1</translation>
+    </message>
+    <message>
+        <source>文件已损坏,只打开了其中完整的部分: %1</source>
+        <translation>文件已损坏,只打开了其中完整的部分: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFilesMenu</name>
+    <message>
+        <source>最近打开</source>
+        <translation>最近打开</translation>
+    </message>
+    <message>
+        <source>(无)</source>
+        <translation>(无)</translation>
+    </message>
+    <message>
+        <source>清除列表</source>
+        <translation>清除列表</translation>
+    </message>
 </context>
 <context>
     <name>SvgImport</name>
@@ -843,6 +953,14 @@
     <message>
         <source>删除</source>
         <translation>删除</translation>
+    </message>
+    <message>
+        <source>上移图层</source>
+        <translation>上移图层</translation>
+    </message>
+    <message>
+        <source>下移图层</source>
+        <translation>下移图层</translation>
     </message>
 </context>
 <context>
@@ -943,22 +1061,6 @@
         <translation>视图</translation>
     </message>
     <message>
-        <source>取消</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>确定</translation>
-    </message>
-    <message>
-        <source>创作未保存,是否立即退出</source>
-        <translation>创作未保存,是否立即退出</translation>
-    </message>
-    <message>
-        <source>提示</source>
-        <translation>提示</translation>
-    </message>
-    <message>
         <source>没有可预览的图形!</source>
         <translation>没有可预览的图形!</translation>
     </message>
@@ -989,6 +1091,38 @@
     <message>
         <source>编辑</source>
         <translation>编辑</translation>
+    </message>
+    <message>
+        <source>图层</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>未命名</source>
+        <translation>未命名</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>创作未保存,是否立即退出</source>
+        <translation>创作未保存,是否立即退出</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
     </message>
 </context>
 <context>
