@@ -10,6 +10,17 @@ namespace {
 constexpr double kEdgeTolerance = 0.01; // mm
 } // namespace
 
+bool isOutputItem(const Jk_tu_yuan &item, const LayerList &layers)
+{
+    const TuCeng *layer = layers.find(item.layer_id, item.is_bitmap);
+    return !layer || layer->shuchu;
+}
+
+QRectF burntBounds(const Jk_tu_yuan &item)
+{
+    return item.is_bitmap ? item.sceneBoundingRect() : item.scenePath().boundingRect();
+}
+
 QList<OutsideItem> itemsOutsideWorkArea(const QList<Jk_tu_yuan *> &items, const LayerList &layers,
                                         const QRectF &workArea)
 {
@@ -17,16 +28,15 @@ QList<OutsideItem> itemsOutsideWorkArea(const QList<Jk_tu_yuan *> &items, const 
         workArea.adjusted(-kEdgeTolerance, -kEdgeTolerance, kEdgeTolerance, kEdgeTolerance);
     QList<OutsideItem> outside;
     for (const Jk_tu_yuan *item : items) {
-        const TuCeng *layer = layers.find(item->layer_id, item->is_bitmap);
-        if (layer && !layer->shuchu)
+        if (!isOutputItem(*item, layers))
             continue;
-        const QRectF bounds =
-            item->is_bitmap ? item->sceneBoundingRect() : item->scenePath().boundingRect();
+        const QRectF bounds = burntBounds(*item);
         // Compared edge by edge: a straight line has an empty rectangle,
         // which QRectF::contains never reports as inside.
         if (bounds.left() >= allowed.left() && bounds.right() <= allowed.right()
             && bounds.top() >= allowed.top() && bounds.bottom() <= allowed.bottom())
             continue;
+        const TuCeng *layer = layers.find(item->layer_id, item->is_bitmap);
         const QString name = layer ? layer->mingcheng : QStringLiteral("L%1").arg(item->layer_id);
         outside.append(OutsideItem{item, name, bounds});
     }

@@ -17,6 +17,13 @@ struct OutsideItem
     QRectF bounds;     // what it burns, scene mm (machine Y is -y)
 };
 
+// True when the item's layer is sent to the machine (an item whose layer has
+// no record yet counts as sent, as the generator will make it one).
+bool isOutputItem(const Jk_tu_yuan &item, const LayerList &layers);
+// The area an item burns, scene mm: the bitmap's rectangle, or the outline's
+// bounds (not the item's pick margin).
+QRectF burntBounds(const Jk_tu_yuan &item);
+
 // The items of the job (those on layers switched to output) whose burnt area
 // reaches beyond `workArea` (scene mm: x 0..width, y -height..0), in the
 // order given. A hair's breadth over the edge (rounding) does not count.

@@ -1,3 +1,5 @@
+#include "x_server.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -75,32 +77,21 @@ private slots:
 
     void realXWindow()
     {
-        const QString xvfb = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-        if (xvfb.isEmpty())
+        if (!XServer::available())
             QSKIP("Xvfb is not installed");
-        QProcess server;
-        // -displayfd makes the server pick a free display and print its number.
-        server.start(xvfb,
-                     {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                      QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
-                      QStringLiteral("0"), QStringLiteral("1600x1000x24")});
-        QVERIFY(server.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(server.canReadLine(), 15000);
-        const QString display = QString::fromLatin1(server.readLine()).trimmed();
+        XServer server;
+        const QString display = server.start(QSize(1600, 1000));
         QVERIFY(!display.isEmpty());
 
         QTemporaryDir home;
         QProcess app;
         QProcessEnvironment env = environmentFor(home);
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        env.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + display);
+        env.insert(QStringLiteral("DISPLAY"), display);
         app.setProcessEnvironment(env);
         startAndQuit(app, home);
         if (QTest::currentTestFailed())
             qWarning() << app.readAllStandardError();
-
-        server.terminate();
-        server.waitForFinished(5000);
     }
 };
 

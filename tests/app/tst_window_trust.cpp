@@ -2,6 +2,7 @@
 // ran into, driven through the real Widget with mouse and key events.
 #include "window_driver.h"
 
+#include "../document/layer_bytes.h"
 #include "gcode_job_controller.h"
 #include "grbl_fake.h"
 #include "import_actions.h"
@@ -47,14 +48,6 @@ QByteArray jobBytes(Widget &w, const QString &path)
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
-QByteArray recordBytes(const TuCeng &l)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    writeTuCeng(out, l);
-    return bytes;
-}
-
 // The moves of a job that burn, machine coordinates.
 QList<JobSimulator::Move> burns(const QByteArray &job)
 {
@@ -511,12 +504,7 @@ private slots:
         d.drawRectangle(QPointF(80, -20), QPointF(120, -60));
         w.layerController()->moveSelectionToLayer(3);
         Driver::settle();
-        const auto records = [] {
-            QList<QByteArray> all;
-            for (const TuCeng *l : LayerList::instance().layers())
-                all << recordBytes(*l);
-            return all;
-        };
+        const auto records = listBytes;
         auto *rows = w.findChild<LayerRowsPanel *>();
         QCOMPARE(rows->rows().size(), 2);
         auto *power = child<QSpinBox>(&w, "gonglv_Box");

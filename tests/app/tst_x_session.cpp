@@ -3,6 +3,7 @@
 // session drives the real main window with mouse and key events. Skipped
 // when Xvfb is not installed.
 #include "window_driver.h"
+#include "x_server.h"
 
 #include "language_controller.h"
 #include "program_state.h"
@@ -10,7 +11,6 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace lumitra;
@@ -31,24 +31,16 @@ private slots:
             scriptedSession();
             return;
         }
-        const QString xvfb = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-        if (xvfb.isEmpty())
+        if (!XServer::available())
             QSKIP("Xvfb is not installed");
-        QProcess server;
-        // -displayfd makes the server pick a free display and print its number.
-        server.start(xvfb,
-                     {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                      QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
-                      QStringLiteral("0"), QStringLiteral("1280x720x24")});
-        QVERIFY(server.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(server.canReadLine(), 15000);
-        const QString display = QString::fromLatin1(server.readLine()).trimmed();
+        XServer server;
+        const QString display = server.start(QSize(1280, 720));
         QVERIFY(!display.isEmpty());
 
         QProcess session;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        env.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + display);
+        env.insert(QStringLiteral("DISPLAY"), display);
         env.insert(QString::fromLatin1(kInsideX), QStringLiteral("1"));
         session.setProcessEnvironment(env);
         session.setProcessChannelMode(QProcess::MergedChannels);
@@ -56,8 +48,6 @@ private slots:
                       {QStringLiteral("sessionInARealXWindow")});
         const bool finished = session.waitForFinished(60000);
         const QString output = QString::fromLocal8Bit(session.readAll());
-        server.terminate();
-        server.waitForFinished(5000);
         QVERIFY2(finished, qPrintable(output));
         QVERIFY2(session.exitStatus() == QProcess::NormalExit && session.exitCode() == 0,
                  qPrintable(output));

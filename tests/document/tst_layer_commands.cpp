@@ -5,30 +5,15 @@
 #include "layer_rebuild.h"
 #include "program_state.h"
 
+#include "layer_bytes.h"
 #include <QDataStream>
 #include <QUndoStack>
+
 #include <QtTest>
 
 using lumitra::programState;
 
 namespace {
-
-// The stored form of a record: equal bytes mean every parameter is equal.
-QByteArray bytesOf(const TuCeng &l)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    writeTuCeng(out, l);
-    return bytes;
-}
-
-QList<QByteArray> listBytes()
-{
-    QList<QByteArray> all;
-    for (const TuCeng *l : LayerList::instance().layers())
-        all.append(bytesOf(*l));
-    return all;
-}
 
 QVector<LayerKey> listKeys()
 {

@@ -10,6 +10,7 @@
 #include "tu_ceng_item2.h"
 #include "tu_ceng_zhi.h"
 
+#include "layer_bytes.h"
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -24,6 +25,7 @@
 #include <QSpinBox>
 #include <QUndoStack>
 #include <QVBoxLayout>
+
 #include <QtTest>
 
 using lumitra::programState;
@@ -96,22 +98,6 @@ void applyEditsTo(Tu_Ceng_Zhi &panel, TuCeng &layer)
         copyLayerField(layer, edit.value, edit.field);
         panel.refresh();
     });
-}
-
-QByteArray bytesOf(const TuCeng &l)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    writeTuCeng(out, l);
-    return bytes;
-}
-
-QList<QByteArray> listBytes()
-{
-    QList<QByteArray> all;
-    for (const TuCeng *l : LayerList::instance().layers())
-        all.append(bytesOf(*l));
-    return all;
 }
 
 // A wheel notch downwards over the middle of `w`; true when it was taken.
