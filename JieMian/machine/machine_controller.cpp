@@ -3,6 +3,7 @@
 #include "chuan_kou_jian_ce.h"
 #include "grbl_protocol.h"
 #include "jk_com.h"
+#include "machine_commands.h"
 #include "machine_panel.h"
 #include "message_box.h"
 #include "port_choice.h"
@@ -15,12 +16,14 @@
 #include <QTime>
 
 using lumitra::programState;
+namespace machine = lumitra::machine;
 
 namespace {
 
 constexpr int kIndicatorTickMs = 1000;
 constexpr int kSettingsAfterConnectMs = 2000;
 constexpr int kHomeAfterAlarmMs = 1000;
+constexpr int kWifiAlarmRearmMs = 3000;
 
 } // namespace
 
@@ -223,11 +226,23 @@ void MachineController::setWifiBusy(bool wifiBusy)
 
 void MachineController::onStatus(const QString &text)
 {
+    applyStatus(StatusLink::Serial, text);
+}
+
+void MachineController::onWifiStatus(const QString &text)
+{
+    applyStatus(StatusLink::Wifi, text);
+}
+
+void MachineController::applyStatus(StatusLink link, const QString &text)
+{
     qDebug() << text;
     Ui::MachinePanel &f = m_panel->form();
     const bool wasBusy = busy();
-    const StatusReaction r =
-        reactToStatus(StatusLink::Serial, m_status, text, f.console_Edit->toPlainText().size());
+    StatusDisplayState &state = link == StatusLink::Wifi ? m_wifiStatus : m_status;
+    const StatusReaction r = reactToStatus(link, state, text, f.console_Edit->toPlainText().size());
+    if (link == StatusLink::Wifi)
+        m_wifiBusy = m_wifiStatus.busy;
     programState().running = busy();
     if (busy() != wasBusy)
         emit busyChanged(busy());
@@ -244,6 +259,8 @@ void MachineController::onStatus(const QString &text)
         emit cameraAddressChanged(r.cameraAddress);
     if (r.showIndicator)
         f.running_Lab->show();
+    if (r.startIndicatorTimer && !m_indicatorTimer.isActive())
+        m_indicatorTimer.start();
     if (r.stopIndicatorTimer)
         m_indicatorTimer.stop();
     if (r.hideIndicator)
@@ -252,21 +269,12 @@ void MachineController::onStatus(const QString &text)
         f.console_Edit->clear();
     if (r.appendConsole)
         f.console_Edit->appendPlainText(text.trimmed());
-    if (r.showAlarm)
-        QTimer::singleShot(0, this, &MachineController::showAlarm);
-}
-
-void MachineController::showAlarm()
-{
-    m_indicatorTimer.stop();
-    m_panel->form().running_Lab->hide();
-    lumitra::show_message(m_dialogParent, lumitra::MessageKind::Warning, QString(), tr("确定"),
-                          tr("设备触发警告!"), tr("警告"));
-    QTimer::singleShot(kHomeAfterAlarmMs, this, [this] {
-        m_status.alarmShown = false;
-        if (programState().connectionMode == lumitra::SerialLink && m_com)
-            m_com->queueText(lumitra::grbl::homeText());
-    });
+    if (r.showAlarm) {
+        if (link == StatusLink::Wifi)
+            QTimer::singleShot(0, this, &MachineController::showWifiAlarm);
+        else
+            QTimer::singleShot(0, this, &MachineController::showAlarm);
+    }
 }
 
 void MachineController::onSettings(const QMap<QString, QString> &info)
@@ -288,6 +296,79 @@ void MachineController::onSettings(const QMap<QString, QString> &info)
     const bool firstTime = !m_settingsApplied;
     m_settingsApplied = true;
     emit machineTravelKnown(travel, firstTime);
+}
+
+void MachineController::showAlarm()
+{
+    m_indicatorTimer.stop();
+    m_panel->form().running_Lab->hide();
+    lumitra::show_message(m_dialogParent, lumitra::MessageKind::Warning, QString(), tr("确定"),
+                          tr("设备触发警告!"), tr("警告"));
+    QTimer::singleShot(kHomeAfterAlarmMs, this, [this] {
+        m_status.alarmShown = false;
+        if (programState().connectionMode == lumitra::SerialLink && m_com)
+            m_com->queueText(lumitra::grbl::homeText());
+    });
+}
+
+void MachineController::showWifiAlarm()
+{
+    m_indicatorTimer.stop();
+    m_panel->form().running_Lab->hide();
+    const int confirmed =
+        lumitra::show_message(m_dialogParent, lumitra::MessageKind::Warning, QString(), tr("确定"),
+                              tr("设备触发警告!"), tr("警告"));
+    if (confirmed && programState().connectionMode == lumitra::WifiLink) {
+        sendWifi(machine::wifiSoftResetCommand());
+        sendWifi(machine::homeCommand(machine::Link::Wifi));
+    }
+    QTimer::singleShot(kWifiAlarmRearmMs, this, [this] { m_wifiStatus.alarmShown = false; });
+}
+
+void MachineController::setWifiLinked(const QString &address)
+{
+    m_wifiAddress = address;
+    programState().connectionMode = lumitra::WifiLink;
+    m_wifiStatus = StatusDisplayState();
+    if (m_watcher)
+        m_watcher->setLinkMode(lumitra::WifiLink);
+    sendWifi(machine::homeCommand(machine::Link::Wifi));
+    appendConsole(tr("已通过WiFi连接到 %1").arg(address));
+    emit connectionChanged(lumitra::WifiLink);
+}
+
+void MachineController::onWifiLost(bool expected)
+{
+    if (programState().connectionMode != lumitra::WifiLink)
+        return;
+    programState().connectionMode = lumitra::NotConnected;
+    m_indicatorTimer.stop();
+    m_wifiStatus = StatusDisplayState();
+    setWifiBusy(false);
+    if (m_panel) {
+        Ui::MachinePanel &f = m_panel->form();
+        f.running_Lab->hide();
+        f.pause_Btn->setText(tr("暂停"));
+        const QSignalBlocker quiet(f.fire_Btn);
+        f.fire_Btn->setChecked(false);
+        f.fire_Btn->setText(tr("点火"));
+    }
+    if (m_watcher)
+        m_watcher->setLinkMode(lumitra::NotConnected);
+    const QString text = expected ? tr("WiFi连接已断开") : tr("WiFi连接意外断开!");
+    appendConsole(text);
+    if (!expected)
+        lumitra::show_notice(m_dialogParent, text);
+    emit connectionChanged(lumitra::NotConnected);
+}
+
+void MachineController::onWifiSettings(const QMap<int, QString> &settings)
+{
+    // The same reaction as to the serial dump, whose keys carry the "$".
+    QMap<QString, QString> info;
+    for (auto it = settings.constBegin(); it != settings.constEnd(); ++it)
+        info.insert(QStringLiteral("$%1").arg(it.key()), it.value());
+    onSettings(info);
 }
 
 void MachineController::updateRunTime()

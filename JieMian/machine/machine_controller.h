@@ -100,6 +100,16 @@ public slots:
     // Traces the output area with the laser off at the jog feed.
     void frameDesign();
 
+    // The WiFi link (owned by the window's WiFi controller) reports here.
+    // A normalised status text from the board.
+    void onWifiStatus(const QString &text);
+    // The board's settings dump.
+    void onWifiSettings(const QMap<int, QString> &settings);
+    // The link came up to `address` ("host:port"): WiFi mode, home.
+    void setWifiLinked(const QString &address);
+    // The link went down; `expected` when the user disconnected.
+    void onWifiLost(bool expected);
+
 signals:
     void connectionChanged(int mode);
     void busyChanged(bool busy);
@@ -123,6 +133,9 @@ private:
     void onSettings(const QMap<QString, QString> &info);
     void onLinkLost();
     void showAlarm();
+    // The WiFi alarm: on confirmation a soft reset and home; re-armed 3 s later.
+    void showWifiAlarm();
+    void applyStatus(StatusLink link, const QString &text);
     void showDisconnected();
     void updateRunTime();
     void startIndicator();
@@ -144,6 +157,7 @@ private:
     Jk_com *m_com = nullptr;
     Chuan_Kou_Jian_Ce *m_watcher = nullptr;
     StatusDisplayState m_status;
+    StatusDisplayState m_wifiStatus;
     bool m_wifiBusy = false;
     bool m_travelKnown = false;     // the machine reported its work area
     bool m_settingsApplied = false; // settings seen at least once this run
