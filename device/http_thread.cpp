@@ -75,6 +75,7 @@ struct HttpThread::Private
 
 HttpThread::HttpThread(QObject *parent) : QObject(parent), d(new Private)
 {
+    qRegisterMetaType<QMap<int, QString>>("QMap<int,QString>");
     d->nam = new QNetworkAccessManager(this);
     d->ws = new QWebSocket(QString(), QWebSocketProtocol::VersionLatest, this);
     d->progressTimer = new QTimer(this);
@@ -379,6 +380,8 @@ void HttpThread::uploadFile(const QString &localPath, const QString &remoteName)
     multi->setParent(reply);
     d->upload = reply;
     connect(reply, &QNetworkReply::uploadProgress, this, [this](qint64 sent, qint64 total) {
+        if (total <= 0 || sent < d->requestSent)
+            return; // the closing (0, 0) report, not a step back
         d->requestSent = sent;
         d->requestTotal = total;
         const int percent = total > 0 ? int(100 * sent / total) : 0;
@@ -397,7 +400,6 @@ void HttpThread::onUploadDone(QNetworkReply *reply)
     d->progressTimer->stop();
     d->upload = nullptr;
     reply->deleteLater();
-    reply->readAll();
     if (d->uploadCancelled) {
         qDebug() << "upload cancelled";
         emit uploadFinished(false, tr("上传已取消"));
