@@ -201,10 +201,14 @@ void FakeBoard::refuse()
 void FakeBoard::setStalled(bool stalled)
 {
     m_stalled = stalled;
-    if (stalled)
+    if (stalled) {
         m_ws->pauseAccepting();
-    else
+        m_jobTimer->stop();
+    } else {
         m_ws->resumeAccepting();
+        if (m_jobRunning)
+            m_jobTimer->start();
+    }
 }
 
 void FakeBoard::dropWebSockets()
@@ -601,6 +605,8 @@ void FakeBoard::jobTick()
 
 void FakeBoard::sendFrame(const QByteArray &frame, bool binary)
 {
+    if (m_stalled)
+        return;
     for (QWebSocket *ws : qAsConst(m_clients)) {
         if (binary)
             ws->sendBinaryMessage(frame);

@@ -71,9 +71,9 @@ public:
     QString address() const; // "127.0.0.1:<httpPort>"
 
     // Failure switches.
-    void refuse();                                   // both servers stop listening
-    void setStalled(bool stalled);                   // accept, never answer (HTTP and WS handshake)
-    void dropWebSockets();                           // abort every WebSocket (no close frame)
+    void refuse();                 // both servers stop listening
+    void setStalled(bool stalled); // accept, never answer (HTTP, WS handshake, status stream)
+    void dropWebSockets();         // abort every WebSocket (no close frame)
     void failRoute(const QString &path, int status); // e.g. ("/upload", 500); 0 clears
 
     // Every decoded commandText in order, every plain line in order.
