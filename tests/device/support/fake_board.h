@@ -23,7 +23,10 @@ class QTimer;
 //                                          recorded, answered over the WebSocket
 //   GET  /command?plain=LINE&PAGEID=0      a setting line "$N=V", recorded
 //   POST /upload                           multipart/form-data; files kept on disk
-//   GET  /upload?path=/&PAGEID=0           JSON list of the card
+//   GET  /upload?path=/&PAGEID=0           JSON list of the card: {"files":[{"name":"a.nc",
+//                                          "size":"1.21 KB"}],"path":"/","total":"4096.00 MB",
+//                                          "used":..,"occupation":"0","status":"Ok"} (sizes are
+//                                          text with a unit, "123 B", "1.21 KB", "3.50 MB")
 //   GET  /upload?path=/&action=delete&filename=NAME&PAGEID=0
 //   GET  /SD/NAME                          the file's bytes
 // Replies to commands go out as GRBL lines ("\r\n"-ended) in binary frames
