@@ -2,6 +2,7 @@
 
 #include "command_line.h"
 #include "headless_run.h"
+#include "headless_wifi_run.h"
 #include "importer_registry.h"
 #include "job_export.h"
 #include "language.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QTextStream>
 #include <QTranslator>
 
@@ -51,6 +53,16 @@ int runSender(const CommandLine &cl)
     QTextStream out(stdout);
     QTextStream err(stderr);
     return runJobHeadless(cl.port, cl.runFile, cl.home, out, err);
+}
+
+// --wifi ... --run: uploads and starts the file through the window's HttpThread.
+int runWifiSender(const CommandLine &cl)
+{
+    // The link's debug trace would bury the one line a failure leaves on stderr.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, cl.runFile, out, err);
 }
 
 int runWindow(QApplication &app, const CommandLine &cl)
@@ -111,6 +123,8 @@ int run_application(int argc, char **argv)
         return runExport(cl);
     case CommandLine::Run:
         return runSender(cl);
+    case CommandLine::WifiRun:
+        return runWifiSender(cl);
     case CommandLine::Exit:
     case CommandLine::Window:
         break;

@@ -20,7 +20,9 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("Lumitra: design and run jobs on GRBL laser engravers.\n"
                        "Without options the window opens. Headless modes:\n"
                        "  --export INPUT -o OUTPUT   write the G-code job of a design file\n"
-                       "  --port PORT --run FILE     stream a G-code file to a controller"));
+                       "  --port PORT --run FILE     stream a G-code file to a controller\n"
+                       "  --wifi HOST[:PORT] --run FILE [--ws-port N]\n"
+                       "                             run a G-code file on a WiFi controller"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption exportOpt(QStringLiteral("export"),
@@ -36,6 +38,14 @@ CommandLine parse_command_line(const QStringList &arguments)
     const QCommandLineOption runOpt(QStringLiteral("run"),
                                     QStringLiteral("G-code file to stream to the controller."),
                                     QStringLiteral("FILE"));
+    const QCommandLineOption wifiOpt(
+        QStringLiteral("wifi"),
+        QStringLiteral("Address of a WiFi controller (HTTP port 80 unless given)."),
+        QStringLiteral("HOST[:PORT]"));
+    const QCommandLineOption wsPortOpt(QStringLiteral("ws-port"),
+                                       QStringLiteral("WebSocket port of the WiFi controller "
+                                                      "(default 81)."),
+                                       QStringLiteral("N"));
     const QCommandLineOption homeOpt(QStringLiteral("home"),
                                      QStringLiteral("Home the machine before the job."));
     parser.addOption(exportOpt);
@@ -55,6 +65,8 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(portOpt);
     parser.addOption(runOpt);
     parser.addOption(homeOpt);
+    parser.addOption(wifiOpt);
+    parser.addOption(wsPortOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Design files to open in the window."),
                                  QStringLiteral("[files...]"));
@@ -78,7 +90,7 @@ CommandLine parse_command_line(const QStringList &arguments)
     }
 
     const bool exporting = parser.isSet(exportOpt);
-    const bool running = parser.isSet(portOpt) || parser.isSet(runOpt);
+    const bool running = parser.isSet(portOpt) || parser.isSet(runOpt) || parser.isSet(wifiOpt);
     auto usage = [&result](const QString &text) {
         result.mode = CommandLine::Exit;
         result.exitCode = 2;
@@ -96,6 +108,26 @@ CommandLine parse_command_line(const QStringList &arguments)
         for (const QString &name : process_option_names())
             if (parser.isSet(name))
                 result.processOptions.insert(name, parser.value(name));
+        return result;
+    }
+    if (parser.isSet(wsPortOpt) && !parser.isSet(wifiOpt))
+        return usage(QStringLiteral("--ws-port is only used with --wifi"));
+    if (running && parser.isSet(wifiOpt)) {
+        if (parser.isSet(portOpt))
+            return usage(QStringLiteral("--wifi and --port cannot be used together"));
+        if (!parser.isSet(runOpt))
+            return usage(QStringLiteral("--wifi needs --run FILE"));
+        if (parser.isSet(homeOpt))
+            return usage(QStringLiteral("--home is only used with --port"));
+        if (parser.isSet(wsPortOpt)) {
+            bool ok = false;
+            result.wsPort = parser.value(wsPortOpt).toInt(&ok);
+            if (!ok || result.wsPort < 1 || result.wsPort > 65535)
+                return usage(QStringLiteral("--ws-port needs a port number (1-65535)"));
+        }
+        result.mode = CommandLine::WifiRun;
+        result.wifiAddress = parser.value(wifiOpt);
+        result.runFile = parser.value(runOpt);
         return result;
     }
     if (running) {

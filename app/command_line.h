@@ -9,7 +9,7 @@ namespace lumitra {
 // What the command line asks the one executable to do.
 struct CommandLine
 {
-    enum Mode { Window, Export, Run, Exit };
+    enum Mode { Window, Export, Run, Exit, WifiRun };
     Mode mode = Window;
     int exitCode = 0; // for Exit: --help, --version or a usage error
     QString message;  // printed for Exit (stdout when exitCode is 0, else stderr)
@@ -24,6 +24,11 @@ struct CommandLine
     QString port;
     QString runFile;
     bool home = false;
+
+    // --wifi HOST[:PORT] --run FILE [--ws-port N]: the board's address as
+    // given (HTTP port 80 when absent) and its WebSocket port.
+    QString wifiAddress;
+    int wsPort = 81;
 
     // Window mode: design files named on the command line are opened.
     QStringList filesToOpen;

@@ -20,6 +20,7 @@ enum HeadlessExit {
     HeadlessMachineFault = 5, // alarm or error reported by the controller
     HeadlessPortLost = 6,     // the port failed during the run (unplugged)
     HeadlessSilent = 7,       // the controller stopped answering
+    HeadlessNotTaken = 8,     // WiFi: the upload failed or the board did not start the job
 };
 
 struct HeadlessRunOptions

@@ -33,6 +33,23 @@ private slots:
         QTest::newRow("process option without export")
             << QStringList{"--power", "50"} << int(CommandLine::Exit) << 2;
         QTest::newRow("home without run") << QStringList{"--home"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("wifi run") << QStringList{"--wifi", "192.168.4.1", "--run", "a.nc"}
+                                  << int(CommandLine::WifiRun) << 0;
+        QTest::newRow("wifi without run")
+            << QStringList{"--wifi", "192.168.4.1"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("wifi and port") << QStringList{"--wifi", "h", "--port", "p", "--run", "a.nc"}
+                                       << int(CommandLine::Exit) << 2;
+        QTest::newRow("wifi with home")
+            << QStringList{"--wifi", "h", "--run", "a.nc", "--home"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("ws port without wifi")
+            << QStringList{"--port", "p", "--run", "a.nc", "--ws-port", "81"}
+            << int(CommandLine::Exit) << 2;
+        QTest::newRow("ws port not a number")
+            << QStringList{"--wifi", "h", "--run", "a.nc", "--ws-port", "x"}
+            << int(CommandLine::Exit) << 2;
+        QTest::newRow("ws port out of range")
+            << QStringList{"--wifi", "h", "--run", "a.nc", "--ws-port", "70000"}
+            << int(CommandLine::Exit) << 2;
     }
     void parse()
     {
@@ -67,6 +84,28 @@ private slots:
         QCOMPARE(cl.port, QStringLiteral("/dev/pts/3"));
         QCOMPARE(cl.runFile, QStringLiteral("job.nc"));
         QVERIFY(cl.home);
+    }
+
+    void wifiRunReadsAddressAndPorts_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<int>("wsPort");
+        QTest::newRow("defaults") << QStringList{"--wifi", "192.168.4.1", "--run", "job.nc"}
+                                  << "192.168.4.1" << 81;
+        QTest::newRow("ports given")
+            << QStringList{"--wifi", "127.0.0.1:8080", "--run", "job.nc", "--ws-port", "8081"}
+            << "127.0.0.1:8080" << 8081;
+    }
+    void wifiRunReadsAddressAndPorts()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(QString, address);
+        QFETCH(int, wsPort);
+        const CommandLine cl = parse_command_line(QStringList{"lumitra"} + args);
+        QCOMPARE(cl.wifiAddress, address);
+        QCOMPARE(cl.wsPort, wsPort);
+        QCOMPARE(cl.runFile, QStringLiteral("job.nc"));
     }
 };
 
