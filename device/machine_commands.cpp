@@ -1,5 +1,7 @@
 #include "machine_commands.h"
 
+#include <QUrl>
+
 namespace lumitra::machine {
 
 QString homeCommand(Link link)
@@ -10,7 +12,7 @@ QString homeCommand(Link link)
 QString goToOriginCommand(Link link)
 {
     return link == Link::Serial ? QStringLiteral("$J=G90X0Y0F5000")
-                                : QStringLiteral("$J=G90%20G21%20F5000%20X0Y0");
+                                : QStringLiteral("$J=G90 G21 F5000 X0Y0");
 }
 
 QString setOriginCommand()
@@ -28,7 +30,7 @@ QString moveToCommand(Link link, double x, double y)
     const QString xy =
         QLatin1Char('X') + QString::number(x) + QLatin1Char('Y') + QString::number(y);
     return link == Link::Serial ? QStringLiteral("G90") + xy
-                                : QStringLiteral("$J=G90%20G21%20F7500%20") + xy;
+                                : QStringLiteral("$J=G90 G21 F7500 ") + xy;
 }
 
 QString wifiPauseCommand()
@@ -43,7 +45,7 @@ QString wifiResumeCommand()
 
 QString wifiSoftResetCommand()
 {
-    return QStringLiteral("%18");
+    return QString(QChar(0x18));
 }
 
 QString testFirePower(double percent, double laserMaxS)
@@ -65,8 +67,8 @@ QString jogCommand(Link link, const QString &dx, const QString &dy, int feed)
 {
     const QString f = QString::number(feed);
     if (link == Link::Wifi)
-        return QStringLiteral("$J=G91%20G21%20F") + f + QStringLiteral("%20X") + dx
-               + QLatin1Char('Y') + dy;
+        return QStringLiteral("$J=G91 G21 F") + f + QStringLiteral(" X") + dx + QLatin1Char('Y')
+               + dy;
     if (dy == QLatin1String("0"))
         return QStringLiteral("$J=G91X") + dx + QLatin1Char('F') + f;
     if (dx == QLatin1String("0"))
@@ -77,9 +79,8 @@ QString jogCommand(Link link, const QString &dx, const QString &dy, int feed)
 QString jogCentreCommand(Link link, int feed)
 {
     const QString f = QString::number(feed);
-    return link == Link::Serial
-               ? QStringLiteral("$J=G90X0Y0F") + f
-               : QStringLiteral("$J=G90%20G21%20F") + f + QStringLiteral("%20X0Y0");
+    return link == Link::Serial ? QStringLiteral("$J=G90X0Y0F") + f
+                                : QStringLiteral("$J=G90 G21 F") + f + QStringLiteral(" X0Y0");
 }
 
 JogDirection jogPadDirection(int index)
@@ -126,8 +127,10 @@ QRectF sceneToMachine(const QRectF &sceneRect)
 
 QString wifiCommandUrl(const QString &address, const QString &command)
 {
-    return QStringLiteral("http://") + address + QStringLiteral("/command?commandText=") + command
-           + QStringLiteral("&PAGEID=0");
+    // The whole text is encoded, not only its blanks: boards decode "+" as a
+    // blank and would cut the query at "&" or "#".
+    return QStringLiteral("http://") + address + QStringLiteral("/command?commandText=")
+           + QString::fromLatin1(QUrl::toPercentEncoding(command)) + QStringLiteral("&PAGEID=0");
 }
 
 } // namespace lumitra::machine

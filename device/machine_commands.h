@@ -5,8 +5,9 @@
 #include <QStringList>
 
 // The command text of every machine control, for either link. Serial texts go
-// through the link's queue (which splits on "\n"); WiFi texts are the
-// "commandText" of the board's command URL, blanks already written "%20".
+// through the link's queue (which splits on "\n"); WiFi texts are the plain
+// "commandText" of the board's command URL (blanks as blanks, the soft reset as
+// the byte 0x18), percent-encoded as a whole by wifiCommandUrl.
 // Coordinates in millimetres, feeds in mm/min. The differences between the two
 // columns (serial home unlocks first, serial move-to has no feed, serial
 // test-fire off keeps "F1000") are intended.
@@ -25,7 +26,7 @@ QString moveToCommand(Link link, double x, double y);
 // real-time bytes instead.
 QString wifiPauseCommand();     // "$!"
 QString wifiResumeCommand();    // "$~"
-QString wifiSoftResetCommand(); // "%18"
+QString wifiSoftResetCommand(); // the byte 0x18
 
 // S value of a test fire: power percent × laser maximum S / 100, general number
 // with 6 significant digits.
@@ -56,7 +57,9 @@ QStringList framingCommands(const QRectF &machineRect, int feed);
 // A canvas rectangle (scene units, y down) in machine coordinates (Y negated).
 QRectF sceneToMachine(const QRectF &sceneRect);
 
-// "http://<address>/command?commandText=<command>&PAGEID=0"
+// "http://<address>/command?commandText=<command>&PAGEID=0" with the command
+// percent-encoded as a whole ("+" travels as "%2B", 0x18 as "%18").
+// `address` is the IP field's text, optionally with ":port".
 QString wifiCommandUrl(const QString &address, const QString &command);
 
 } // namespace lumitra::machine

@@ -51,6 +51,8 @@ private slots:
     void reactionPositionAndCamera();
     void wifiCommands_data();
     void wifiCommands();
+    void wifiCommandUrls_data();
+    void wifiCommandUrls();
     void firePower_data();
     void firePower();
 };
@@ -406,16 +408,16 @@ void TestGrblVocabulary::wifiCommands_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("origin") << goToOriginCommand(Link::Wifi) << "$J=G90%20G21%20F5000%20X0Y0";
+    QTest::newRow("origin") << goToOriginCommand(Link::Wifi) << "$J=G90 G21 F5000 X0Y0";
     QTest::newRow("move jogs at 7500")
-        << moveToCommand(Link::Wifi, 12.5, 40) << "$J=G90%20G21%20F7500%20X12.5Y40";
+        << moveToCommand(Link::Wifi, 12.5, 40) << "$J=G90 G21 F7500 X12.5Y40";
     QTest::newRow("fire off") << testFireOffCommand(Link::Wifi) << "M5S0G0";
     QTest::newRow("pause") << wifiPauseCommand() << "$!";
     QTest::newRow("resume") << wifiResumeCommand() << "$~";
-    QTest::newRow("reset") << wifiSoftResetCommand() << "%18";
-    QTest::newRow("centre") << jogCentreCommand(Link::Wifi, 3000) << "$J=G90%20G21%20F3000%20X0Y0";
+    QTest::newRow("reset") << wifiSoftResetCommand() << QString(QChar(0x18));
+    QTest::newRow("centre") << jogCentreCommand(Link::Wifi, 3000) << "$J=G90 G21 F3000 X0Y0";
     QTest::newRow("jog keeps both axes")
-        << jogCommand(Link::Wifi, "0", "10", 3000) << "$J=G91%20G21%20F3000%20X0Y10";
+        << jogCommand(Link::Wifi, "0", "10", 3000) << "$J=G91 G21 F3000 X0Y10";
 }
 
 void TestGrblVocabulary::wifiCommands()
@@ -423,6 +425,32 @@ void TestGrblVocabulary::wifiCommands()
     QFETCH(QString, command);
     QFETCH(QString, expected);
     QCOMPARE(command, expected);
+}
+
+void TestGrblVocabulary::wifiCommandUrls_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("url");
+    QTest::newRow("blanks")
+        << jogCommand(Link::Wifi, "-5", "0", 3000)
+        << "http://10.0.0.7/command?commandText=%24J%3DG91%20G21%20F3000%20X-5Y0"
+           "&PAGEID=0";
+    QTest::newRow("plus, ampersand, hash, percent")
+        << "[ESP101]pwd=a+b&c#d%e f"
+        << "http://10.0.0.7/command?commandText=%5BESP101%5Dpwd%3Da%2Bb%26c%23d%25e%20f&PAGEID=0";
+    QTest::newRow("soft reset byte")
+        << wifiSoftResetCommand() << "http://10.0.0.7/command?commandText=%18&PAGEID=0";
+    QTest::newRow("query") << "?"
+                           << "http://10.0.0.7/command?commandText=%3F&PAGEID=0";
+    QTest::newRow("utf-8") << QString::fromUtf8("密码")
+                           << "http://10.0.0.7/command?commandText=%E5%AF%86%E7%A0%81&PAGEID=0";
+}
+
+void TestGrblVocabulary::wifiCommandUrls()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, url);
+    QCOMPARE(wifiCommandUrl("10.0.0.7", command), url);
 }
 
 void TestGrblVocabulary::firePower_data()

@@ -705,10 +705,11 @@ void TestMachineController::wifiCommands()
     m_panel->form().jog1_Btn->click();
     QCOMPARE(urls.count(), 2);
     QCOMPARE(urls.at(0).first().toString(),
-             QString("http://192.168.0.1/command?commandText=$H&PAGEID=0"));
+             QString("http://192.168.0.1/command?commandText=%24H&PAGEID=0"));
     QCOMPARE(
         urls.at(1).first().toString(),
-        QString("http://192.168.0.1/command?commandText=$J=G91%20G21%20F3000%20X0Y10&PAGEID=0"));
+        QString(
+            "http://192.168.0.1/command?commandText=%24J%3DG91%20G21%20F3000%20X0Y10&PAGEID=0"));
 }
 
 QTEST_MAIN(TestMachineController)

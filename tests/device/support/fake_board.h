@@ -1,0 +1,146 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QTcpServer;
+class QTcpSocket;
+class QWebSocket;
+class QWebSocketServer;
+class QTemporaryDir;
+class QTimer;
+
+// A WiFi controller board on 127.0.0.1 for tests and benches: an HTTP server
+// (QTcpServer, keep-alive, Content-Length bodies) and a WebSocket server for
+// the status stream, both on port 0 (read the ports after start()).
+//
+// HTTP routes:
+//   GET  /command?commandText=X&PAGEID=0   X decoded ("+" is a blank, then %XX),
+//                                          recorded, answered over the WebSocket
+//   GET  /command?plain=LINE&PAGEID=0      a setting line "$N=V", recorded
+//   POST /upload                           multipart/form-data; files kept on disk
+//   GET  /upload?path=/&PAGEID=0           JSON list of the card
+//   GET  /upload?path=/&action=delete&filename=NAME&PAGEID=0
+//   GET  /SD/NAME                          the file's bytes
+// Replies to commands go out as GRBL lines ("\r\n"-ended) in binary frames
+// (text frames on request), `linesPerFrame` lines packed into one frame, each
+// frame optionally split in two at its middle. A new WebSocket client first gets
+// the board's own text chatter "CURRENT_ID:0", "ACTIVE_ID:0", "PING:1".
+// "[ESP220]/NAME" starts a pretend job on a card file: Run reports every
+// `reportIntervalMs` for `jobMs`, then Idle (or an alarm when asked).
+// Lives on the thread that creates it (the test's GUI thread).
+class FakeBoard : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        int linesPerFrame = 1;
+        bool splitFrames = false; // every frame goes out as two halves
+        bool textFrames = false;  // GRBL lines in text frames instead of binary
+        bool chatter = true;      // the board's text chatter on connect
+        int jobMs = 300;
+        int reportIntervalMs = 50;
+        int alarmAfterMs = -1; // >= 0: the pretend job raises ALARM:1 after this
+        QString model;         // named in the "$I" answer when set
+    };
+
+    // One part of a multipart upload, in arrival order.
+    struct UploadPart
+    {
+        QByteArray headers; // the part's raw header block
+        QString name;       // from Content-Disposition
+        QString filename;   // empty for a plain field
+        QString contentType;
+        qint64 size = 0;
+        QByteArray body; // only for plain fields (file bodies stay on disk)
+    };
+
+    explicit FakeBoard(const Options &options, QObject *parent = nullptr);
+    explicit FakeBoard(QObject *parent = nullptr);
+    ~FakeBoard() override;
+
+    bool start();
+    quint16 httpPort() const;
+    quint16 wsPort() const;
+    QString address() const; // "127.0.0.1:<httpPort>"
+
+    // Failure switches.
+    void refuse();                                   // both servers stop listening
+    void setStalled(bool stalled);                   // accept, never answer (HTTP and WS handshake)
+    void dropWebSockets();                           // abort every WebSocket (no close frame)
+    void failRoute(const QString &path, int status); // e.g. ("/upload", 500); 0 clears
+
+    // Every decoded commandText in order, every plain line in order.
+    QStringList commands() const { return m_commands; }
+    QStringList plainLines() const { return m_plainLines; }
+    // Request paths with their raw query, as they arrived ("/command?...").
+    QStringList rawTargets() const { return m_rawTargets; }
+    QList<UploadPart> uploadParts() const { return m_parts; }
+    int uploadCount() const { return m_uploadCount; }
+
+    // The card: name to bytes (read back from disk).
+    QStringList cardFiles() const;
+    QByteArray cardFile(const QString &name) const;
+    QString cardFilePath(const QString &name) const;
+    qint64 cardFileSize(const QString &name) const;
+    void putCardFile(const QString &name, const QByteArray &bytes);
+
+    QMap<int, QString> settings() const { return m_settings; }
+    bool jobRunning() const { return m_jobRunning; }
+    int webSocketClients() const { return m_clients.size(); }
+
+    // Sends GRBL lines (without "\r\n") as the options say, or one raw frame.
+    void sendLines(const QList<QByteArray> &lines);
+    void sendFrame(const QByteArray &frame, bool binary = true);
+
+    static QMap<int, QString> defaultSettings();
+
+signals:
+    void commandReceived(const QString &text);
+    void uploadReceived(const QString &filename);
+    void webSocketConnected();
+
+private:
+    struct Connection;
+    void onHttpConnection();
+    void onHttpData(QTcpSocket *socket);
+    void handleRequest(Connection &c, QTcpSocket *socket);
+    void finishUpload(Connection &c, QTcpSocket *socket);
+    void feedMultipart(Connection &c, const QByteArray &bytes);
+    void beginPart(Connection &c, const QByteArray &headerBlock);
+    void endPart(Connection &c);
+    void respond(QTcpSocket *socket, int status, const QByteArray &body,
+                 const QByteArray &contentType = "text/plain");
+    void onCommand(const QString &text);
+    void onWebSocketConnection();
+    QByteArray cardListJson() const;
+    QByteArray statusReport(const char *state) const;
+    void jobTick();
+
+    Options m_opt;
+    QTcpServer *m_http = nullptr;
+    QWebSocketServer *m_ws = nullptr;
+    QTemporaryDir *m_dir = nullptr;
+    QTimer *m_jobTimer = nullptr;
+    QList<QWebSocket *> m_clients;
+    QMap<QTcpSocket *, Connection *> m_connections;
+    QMap<QString, int> m_failures;
+    QMap<QString, QString> m_card; // name to path on disk
+    QMap<int, QString> m_settings;
+    QStringList m_commands;
+    QStringList m_plainLines;
+    QStringList m_rawTargets;
+    QList<UploadPart> m_parts;
+    int m_uploadCount = 0;
+    int m_fileSerial = 0;
+    bool m_stalled = false;
+    bool m_jobRunning = false;
+    qint64 m_jobElapsedMs = 0;
+    QString m_jobFile;
+};
