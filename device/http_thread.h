@@ -4,7 +4,11 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QNetworkAccessManager;
+class QNetworkReply;
+class QNetworkRequest;
 class QWebSocket;
 
 // The WiFi link to the controller board: commands as HTTP GET requests to
@@ -86,8 +90,16 @@ signals:
     void lineReceived(const QString &line);
     // The upload ended: ok, or the reason it did not.
     void uploadFinished(bool ok, const QString &error);
+    // The board's answer to runFile: ok, or the reason it did not start.
+    void runStarted(bool ok, const QString &error);
 
 private:
+    void handleLine(const QString &line);
+    void enqueue(const QNetworkRequest &request, const std::function<void(QNetworkReply *)> &done,
+                 bool urgent);
+    void sendNext();
+    void onUploadDone(QNetworkReply *reply);
+
     struct Private;
     Private *d;
 };

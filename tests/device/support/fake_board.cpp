@@ -436,6 +436,7 @@ void FakeBoard::respond(QTcpSocket *socket, int status, const QByteArray &body,
 void FakeBoard::handleRequest(Connection &c, QTcpSocket *socket)
 {
     m_rawTargets << QString::fromLatin1(c.target);
+    m_requestHeaders << c.headers;
     const int q = c.target.indexOf('?');
     const QString path =
         QString::fromUtf8(QByteArray::fromPercentEncoding(q < 0 ? c.target : c.target.left(q)));

@@ -81,6 +81,8 @@ public:
     QStringList plainLines() const { return m_plainLines; }
     // Request paths with their raw query, as they arrived ("/command?...").
     QStringList rawTargets() const { return m_rawTargets; }
+    // The headers of each of those requests (names in lower case).
+    QList<QMap<QByteArray, QByteArray>> requestHeaders() const { return m_requestHeaders; }
     QList<UploadPart> uploadParts() const { return m_parts; }
     int uploadCount() const { return m_uploadCount; }
 
@@ -136,6 +138,7 @@ private:
     QStringList m_commands;
     QStringList m_plainLines;
     QStringList m_rawTargets;
+    QList<QMap<QByteArray, QByteArray>> m_requestHeaders;
     QList<UploadPart> m_parts;
     int m_uploadCount = 0;
     int m_fileSerial = 0;
