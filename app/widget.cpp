@@ -23,8 +23,11 @@
 #include "project_commands.h"
 #include "recent_files_menu.h"
 #include "rotation_field.h"
+#include "settings_store.h"
 #include "tu_ceng_zhi.h"
 #include "wheel_guard.h"
+#include "wifi_link_controller.h"
+#include "wifi_tools_controller.h"
 #include "window_title.h"
 
 #include <QApplication>
@@ -209,8 +212,22 @@ void Widget::setupMachine()
     m_machine = new MachineController(m_machinePanel, this, this);
     m_machine->setFrameSource(
         [this] { return outputBounds(currentDesignItems(), LayerList::instance()); });
+    // The board last reached over WiFi is offered again.
+    const QString lastIp = get_setting(QStringLiteral("IP"));
+    if (!lastIp.isEmpty())
+        ui->ip_Edit->setText(lastIp);
+    const QString lastPort = get_setting(QStringLiteral("Port"));
+    if (!lastPort.isEmpty())
+        ui->port_Edit->setText(lastPort);
     m_machine->setWifiAddress(ui->ip_Edit->text());
-    connect(ui->ip_Edit, &QLineEdit::textChanged, m_machine, &MachineController::setWifiAddress);
+    m_wifi = new WifiLinkController(m_machine, ui->wifi_Btn, this, this);
+    connect(ui->wifi_Btn, &QPushButton::clicked, m_wifi,
+            [this] { m_wifi->toggle(ui->ip_Edit->text(), ui->port_Edit->text()); });
+    m_wifiTools =
+        new WifiToolsController(m_machine, m_wifi, ui->ip_Edit, ui->port_Edit, this, this);
+    auto *tools = new QMenu(this);
+    tools->addActions(m_wifiTools->actions());
+    ui->tools_Btn->setMenu(tools);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });
     connect(m_machine, &MachineController::busyChanged, m_layers, [this](bool busy) {

@@ -21,6 +21,8 @@ class LayerPanelController;
 class LayerRowsPanel;
 class ProjectCommands;
 class Tu_Ceng_Zhi;
+class WifiLinkController;
+class WifiToolsController;
 
 namespace lumitra {
 class LanguageController;
@@ -47,6 +49,8 @@ public:
     GcodeJobController *jobController() const { return m_jobs; }
     MachineController *machineController() const { return m_machine; }
     EditController *editController() const { return m_edit; }
+    WifiLinkController *wifiController() const { return m_wifi; }
+    WifiToolsController *wifiTools() const { return m_wifiTools; }
 
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
@@ -94,4 +98,6 @@ private:
     GcodeJobController *m_jobs = nullptr;
     MachinePanel *m_machinePanel = nullptr;
     MachineController *m_machine = nullptr;
+    WifiLinkController *m_wifi = nullptr;
+    WifiToolsController *m_wifiTools = nullptr;
 };

@@ -117,6 +117,8 @@ void MachineController::ensureLink()
                 Qt::QueuedConnection);
         connect(m_com, &Jk_com::shu_chu_can_shu, this, &MachineController::onSettings,
                 Qt::QueuedConnection);
+        connect(m_com, &Jk_com::lineReceived, this, &MachineController::lineReceived,
+                Qt::QueuedConnection);
         connect(m_com, &Jk_com::linkLost, this, &MachineController::onLinkLost,
                 Qt::QueuedConnection);
         connect(m_com, &Jk_com::diao_ke_jin_du, m_panel->form().progress_Bar,

@@ -112,6 +112,8 @@ public slots:
 
 signals:
     void connectionChanged(int mode);
+    // Every line the serial link received, for whoever reads the board's answers.
+    void lineReceived(const QString &line);
     void busyChanged(bool busy);
     // The machine reported its settings; `firstTime` the first time in a run
     // (the window refits the view). Setting 101 is left to the window's second

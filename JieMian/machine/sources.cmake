@@ -6,6 +6,7 @@ target_sources(lumitra_jiemian PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/machine_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/machine_controller.h
   ${CMAKE_CURRENT_LIST_DIR}/machine_controls.cpp
   ${CMAKE_CURRENT_LIST_DIR}/port_choice.cpp ${CMAKE_CURRENT_LIST_DIR}/port_choice.h
-  ${CMAKE_CURRENT_LIST_DIR}/frame_area.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_area.h)
+  ${CMAKE_CURRENT_LIST_DIR}/frame_area.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_area.h
+  ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.h)
 target_include_directories(lumitra_jiemian PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_link_libraries(lumitra_jiemian PUBLIC lumitra_device)

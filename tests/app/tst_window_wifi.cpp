@@ -1,0 +1,223 @@
+// The window's WiFi road against a fake board on 127.0.0.1: connect from the
+// IP and port fields, controls as command requests, a job uploaded and
+// started on the card, the status stream driving the window, an alarm, and
+// the link dropping mid-job.
+#include "window_driver.h"
+
+#include "controller_search_dialog.h"
+#include "fake_board.h"
+#include "http_thread.h"
+#include "machine_controller.h"
+#include "program_state.h"
+#include "sd_file_manager.h"
+#include "settings_store.h"
+#include "wifi_link_controller.h"
+#include "wifi_she_zhi.h"
+#include "wifi_tools_controller.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace lumitra;
+using namespace window_test;
+
+class TestWindowWifi : public QObject
+{
+    Q_OBJECT
+
+    Asked m_asked;
+
+    // A window connected to `board` through its WIFI button.
+    bool connectWindow(Widget &w, FakeBoard &board)
+    {
+        return connectWindow(w, board.httpPort(), board.wsPort());
+    }
+    bool connectWindow(Widget &w, int httpPort, int wsPort)
+    {
+        child<QLineEdit>(&w, "ip_Edit")->setText(QStringLiteral("127.0.0.1"));
+        child<QLineEdit>(&w, "port_Edit")->setText(QString::number(httpPort));
+        w.wifiController()->setWebSocketPort(wsPort);
+        w.wifiController()->setConnectTimeout(2000);
+        child<QPushButton>(&w, "wifi_Btn")->click();
+        return programState().connectionMode == WifiLink;
+    }
+
+private slots:
+    void init()
+    {
+        QDir(config_dir()).removeRecursively();
+        resetProgramState();
+        m_asked = Asked();
+        m_asked.answers = {1, 1, 1, 1};
+        m_asked.install();
+    }
+    void cleanupTestCase() { set_message_handler({}); }
+
+    void connectsAndSendsControls()
+    {
+        FakeBoard board;
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        QCOMPARE(child<QPushButton>(&w, "wifi_Btn")->text(), QStringLiteral("已连接"));
+        QCOMPARE(get_setting(QStringLiteral("IP")), QStringLiteral("127.0.0.1"));
+        QCOMPARE(get_setting(QStringLiteral("Port")), QString::number(board.httpPort()));
+        // The link asks who the board is, the window homes it and reads its settings.
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("$i")));
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("$H")));
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("$$")));
+
+        // A jog goes out as one command, blanks and all.
+        child<QPushButton>(&w, "jog1_Btn")->click();
+        QTRY_VERIFY(std::any_of(board.commands().cbegin(), board.commands().cend(),
+                                [](const QString &c) { return c.startsWith("$J=G91 G21 F"); }));
+        QVERIFY(m_asked.requests.isEmpty());
+
+        // Disconnecting by the button is quiet and leaves the window usable.
+        child<QPushButton>(&w, "wifi_Btn")->click();
+        QCOMPARE(programState().connectionMode, int(NotConnected));
+        QCOMPARE(child<QPushButton>(&w, "wifi_Btn")->text(), QStringLiteral("WIFI"));
+        QVERIFY(m_asked.requests.isEmpty());
+    }
+
+    void refusedConnectIsTold()
+    {
+        FakeBoard board;
+        QVERIFY(board.start());
+        const int httpPort = board.httpPort();
+        const int wsPort = board.wsPort();
+        board.refuse();
+        Widget w;
+        QVERIFY(!connectWindow(w, httpPort, wsPort));
+        QCOMPARE(m_asked.requests.size(), 1);
+        QVERIFY(m_asked.messages().first().contains(QStringLiteral("127.0.0.1")));
+        QCOMPARE(child<QPushButton>(&w, "wifi_Btn")->text(), QStringLiteral("WIFI"));
+    }
+
+    void jobRunsFromTheCard()
+    {
+        FakeBoard::Options o;
+        o.linesPerFrame = 3;
+        o.splitFrames = true;
+        o.jobMs = 400;
+        FakeBoard board(o);
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        Driver d(&w);
+        d.drawRectangle(QPointF(20, -20), QPointF(60, -60));
+        QSignalSpy busy(w.machineController(), &MachineController::busyChanged);
+        child<QPushButton>(&w, "start_Btn")->click();
+        QVERIFY(w.wifiController()->uploadWindow());
+        QTRY_COMPARE(board.uploadCount(), 1);
+        QFile job(programState().jobFilePath);
+        QVERIFY(job.open(QIODevice::ReadOnly));
+        QCOMPARE(board.cardFile(QStringLiteral("001.nc")), job.readAll());
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("[ESP220]/001.nc")));
+        QTRY_VERIFY(w.machineController()->busy()); // Run came over the WebSocket
+        QTRY_VERIFY_WITH_TIMEOUT(!w.machineController()->busy(), 5000); // then Idle
+        QVERIFY(busy.size() >= 2);
+    }
+
+    void droppedLinkMidJobLeavesAUsableWindow()
+    {
+        FakeBoard::Options o;
+        o.jobMs = 5000;
+        FakeBoard board(o);
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        board.putCardFile(QStringLiteral("001.nc"), "G0X1\n");
+        w.wifiController()->link()->runFile(QStringLiteral("/001.nc"));
+        QTRY_VERIFY(w.machineController()->busy());
+        board.dropWebSockets();
+        QTRY_COMPARE(programState().connectionMode, int(NotConnected));
+        QCOMPARE(get_setting(QStringLiteral("yichangduankai")), QStringLiteral("-1"));
+        QVERIFY(!w.machineController()->busy());
+        QCOMPARE(child<QPushButton>(&w, "wifi_Btn")->text(), QStringLiteral("WIFI"));
+        QCOMPARE(m_asked.requests.size(), 1); // the user is told once
+        // Usable: a control now says to connect first instead of hanging.
+        child<QPushButton>(&w, "home_Btn")->click();
+        QCOMPARE(m_asked.messages().last(), QStringLiteral("请先连接设备!"));
+    }
+
+    void alarmResetsAndHomes()
+    {
+        FakeBoard::Options o;
+        o.jobMs = 3000;
+        o.alarmAfterMs = 100;
+        FakeBoard board(o);
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        board.putCardFile(QStringLiteral("001.nc"), "G0X1\n");
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("$H"))); // the connect's home
+        const int homesBefore = board.commands().count(QStringLiteral("$H"));
+        w.wifiController()->link()->runFile(QStringLiteral("/001.nc"));
+        QTRY_COMPARE(m_asked.messages().count(QStringLiteral("设备触发警告!")), 1);
+        QTRY_VERIFY(board.commands().contains(QString(QChar(0x18))));
+        QTRY_COMPARE(board.commands().count(QStringLiteral("$H")), homesBefore + 1);
+    }
+
+    // The tools menu: the radio setup goes out line by line over WiFi with
+    // every character intact, the card is listed, a found board lands in the
+    // IP and port fields.
+    void toolsMenuReachesTheBoard()
+    {
+        FakeBoard board;
+        QVERIFY(board.start());
+        board.putCardFile(QStringLiteral("sign.nc"), "G0X1\n");
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        QMenu *tools = child<QToolButton>(&w, "tools_Btn")->menu();
+        QCOMPARE(tools->actions().size(), 3);
+
+        tools->actions().at(0)->trigger(); // WiFi setup
+        WIFI_She_Zhi *setup = w.wifiTools()->setupDialog();
+        QVERIFY(setup && setup->isVisible());
+        const QString password = QStringLiteral("a+b&c%d#e f9");
+        child<QLineEdit>(setup, "ssid_Edit")->setText(QStringLiteral("Workshop"));
+        child<QLineEdit>(setup, "password_Edit")->setText(password);
+        child<QPushButton>(setup, "sta_Btn")->click();
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("$I")));
+        const QStringList sent = board.commands();
+        const int first = sent.indexOf(QStringLiteral("$Sta/Password=") + password);
+        QVERIFY2(first >= 0, qPrintable(sent.join(QLatin1Char('|'))));
+        QCOMPARE(sent.mid(first, 4),
+                 (QStringList{QStringLiteral("$Sta/Password=") + password,
+                              QStringLiteral("$Sta/SSID=Workshop"),
+                              QStringLiteral("$Radio/Mode=STA"), QStringLiteral("$I")}));
+
+        tools->actions().at(1)->trigger(); // SD card
+        SdFileManager *sd = w.wifiTools()->sdManager();
+        QVERIFY(sd && sd->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(sd->fileNames().contains(QStringLiteral("sign.nc")), 5000);
+
+        w.wifiTools()->setSearchAddresses(
+            [&] { return QStringList{QStringLiteral("127.0.0.1:%1").arg(board.httpPort())}; });
+        child<QLineEdit>(&w, "ip_Edit")->clear();
+        tools->actions().at(2)->trigger(); // search
+        ControllerSearchDialog *search = w.wifiTools()->searchDialog();
+        QVERIFY(search);
+        auto *found = child<QListWidget>(search, "found_List");
+        QTRY_COMPARE_WITH_TIMEOUT(found->count(), 1, 10000);
+        found->setCurrentRow(0);
+        child<QPushButton>(search, "confirm_Btn")->click();
+        QCOMPARE(child<QLineEdit>(&w, "ip_Edit")->text(), QStringLiteral("127.0.0.1"));
+        QCOMPARE(child<QLineEdit>(&w, "port_Edit")->text(), QString::number(board.httpPort()));
+        QVERIFY(m_asked.requests.isEmpty());
+    }
+};
+
+QTEST_MAIN(TestWindowWifi)
+#include "tst_window_wifi.moc"
