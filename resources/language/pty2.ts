@@ -104,6 +104,45 @@
     </message>
 </context>
 <context>
+    <name>ControllerSearchDialog</name>
+    <message>
+        <source>搜索设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>找到的设备：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在搜索设备...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索完成!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未找到设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先选择设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
@@ -444,6 +483,29 @@
     </message>
 </context>
 <context>
+    <name>HttpThread</name>
+    <message>
+        <source>参数更改失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上一个文件仍在上传</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法读取文件: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传已取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
@@ -657,6 +719,18 @@
     </message>
     <message>
         <source>已连接到串口 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已通过WiFi连接到 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WiFi连接已断开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WiFi连接意外断开!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -879,6 +953,109 @@
     </message>
 </context>
 <context>
+    <name>SdFileManager</name>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>总容量：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已用：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>可用：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>运行</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择上传文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件 %1 已存在，是否覆盖?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定删除文件 %1 吗?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定运行文件 %1 吗?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>读取SD卡文件列表失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除文件失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>运行文件失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传文件失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
@@ -1015,6 +1192,97 @@
     </message>
 </context>
 <context>
+    <name>WIFI_She_Zhi</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备网络信息</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>网络名称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP地址：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连接路由器(STA模式)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WiFi名称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WiFi密码：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示密码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备热点(AP模式)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备地址 192.168.0.1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换到AP模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STA模式(连接路由器)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AP模式(设备热点)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>密码或账号不能为空!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>密码长度不匹配</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>账号或密码不能包含!,？,~,$符号</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>目前仅支持英文,数字,符号输入</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Widget</name>
     <message>
         <source>文件</source>
@@ -1118,6 +1386,80 @@
     </message>
     <message>
         <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WifiLinkController</name>
+    <message>
+        <source>请先断开串口连接!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>端口号无效: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在上传 %1 (%2 MB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在上传 %1: %2 / %3 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WifiToolsController</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

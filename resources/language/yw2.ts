@@ -104,6 +104,45 @@
     </message>
 </context>
 <context>
+    <name>ControllerSearchDialog</name>
+    <message>
+        <source>搜索设备</source>
+        <translation>Search for boards</translation>
+    </message>
+    <message>
+        <source>找到的设备：</source>
+        <translation>Boards found:</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>正在搜索设备...</source>
+        <translation>Searching for boards...</translation>
+    </message>
+    <message>
+        <source>搜索完成!</source>
+        <translation>Search finished!</translation>
+    </message>
+    <message>
+        <source>未找到设备</source>
+        <translation>No board found</translation>
+    </message>
+    <message>
+        <source>请先选择设备</source>
+        <translation>Choose a board first</translation>
+    </message>
+</context>
+<context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
@@ -447,6 +486,29 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>HttpThread</name>
+    <message>
+        <source>参数更改失败</source>
+        <translation>Changing the setting failed</translation>
+    </message>
+    <message>
+        <source>上一个文件仍在上传</source>
+        <translation>The previous file is still uploading</translation>
+    </message>
+    <message>
+        <source>无法读取文件: %1</source>
+        <translation>Cannot read the file: %1</translation>
+    </message>
+    <message>
+        <source>上传已取消</source>
+        <translation>Upload cancelled</translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation>Upload failed: %1</translation>
+    </message>
+</context>
+<context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
@@ -661,6 +723,18 @@ Continue?</translation>
     <message>
         <source>已连接到串口 %1</source>
         <translation>Connected to serial port %1</translation>
+    </message>
+    <message>
+        <source>已通过WiFi连接到 %1</source>
+        <translation>Connected over WiFi to %1</translation>
+    </message>
+    <message>
+        <source>WiFi连接已断开</source>
+        <translation>WiFi link closed</translation>
+    </message>
+    <message>
+        <source>WiFi连接意外断开!</source>
+        <translation>The WiFi link was lost!</translation>
     </message>
 </context>
 <context>
@@ -883,6 +957,109 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>SdFileManager</name>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation>SD card files</translation>
+    </message>
+    <message>
+        <source>设备：</source>
+        <translation>Board:</translation>
+    </message>
+    <message>
+        <source>文件名</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>总容量：</source>
+        <translation>Total:</translation>
+    </message>
+    <message>
+        <source>已用：</source>
+        <translation>Used:</translation>
+    </message>
+    <message>
+        <source>可用：</source>
+        <translation>Free:</translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation>Upload</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>运行</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>选择上传文件</source>
+        <translation>Choose a file to upload</translation>
+    </message>
+    <message>
+        <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
+        <translation>G-code files (*.nc *.gcode *.txt);;All files (*)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>文件 %1 已存在，是否覆盖?</source>
+        <translation>%1 is already on the card. Replace it?</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>确定删除文件 %1 吗?</source>
+        <translation>Delete %1?</translation>
+    </message>
+    <message>
+        <source>确定运行文件 %1 吗?</source>
+        <translation>Run %1?</translation>
+    </message>
+    <message>
+        <source>读取SD卡文件列表失败</source>
+        <translation>Reading the card's file list failed</translation>
+    </message>
+    <message>
+        <source>删除文件失败</source>
+        <translation>Deleting the file failed</translation>
+    </message>
+    <message>
+        <source>运行文件失败</source>
+        <translation>Running the file failed</translation>
+    </message>
+    <message>
+        <source>上传文件失败</source>
+        <translation>Uploading the file failed</translation>
+    </message>
+</context>
+<context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
@@ -1019,6 +1196,97 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>WIFI_She_Zhi</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation>WiFi settings</translation>
+    </message>
+    <message>
+        <source>设备网络信息</source>
+        <translation>Board network</translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <source>网络名称：</source>
+        <translation>Network name:</translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>IP地址：</source>
+        <translation>IP address:</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>连接路由器(STA模式)</source>
+        <translation>Join a router (station mode)</translation>
+    </message>
+    <message>
+        <source>WiFi名称：</source>
+        <translation>WiFi name:</translation>
+    </message>
+    <message>
+        <source>WiFi密码：</source>
+        <translation>WiFi password:</translation>
+    </message>
+    <message>
+        <source>显示密码</source>
+        <translation>Show password</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>设备热点(AP模式)</source>
+        <translation>Board hotspot (access point mode)</translation>
+    </message>
+    <message>
+        <source>设备地址 192.168.0.1</source>
+        <translation>Board address 192.168.0.1</translation>
+    </message>
+    <message>
+        <source>切换到AP模式</source>
+        <translation>Switch to access point mode</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>STA模式(连接路由器)</source>
+        <translation>Station mode (router)</translation>
+    </message>
+    <message>
+        <source>AP模式(设备热点)</source>
+        <translation>Access point mode (hotspot)</translation>
+    </message>
+    <message>
+        <source>密码或账号不能为空!</source>
+        <translation>The network name and password cannot be empty!</translation>
+    </message>
+    <message>
+        <source>密码长度不匹配</source>
+        <translation>The password must be 8 to 90 characters long</translation>
+    </message>
+    <message>
+        <source>账号或密码不能包含!,？,~,$符号</source>
+        <translation>The name and password cannot contain !, ?, ~ or $</translation>
+    </message>
+    <message>
+        <source>目前仅支持英文,数字,符号输入</source>
+        <translation>Only English letters, digits and symbols are supported</translation>
+    </message>
+</context>
+<context>
     <name>Widget</name>
     <message>
         <source>文件</source>
@@ -1123,6 +1391,80 @@ Continue?</translation>
     <message>
         <source>提示</source>
         <translation>Notice</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>Tools</translation>
+    </message>
+</context>
+<context>
+    <name>WifiLinkController</name>
+    <message>
+        <source>请先断开串口连接!</source>
+        <translation>Disconnect the serial link first!</translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation>The IP address cannot be empty!</translation>
+    </message>
+    <message>
+        <source>端口号无效: %1</source>
+        <translation>Invalid port: %1</translation>
+    </message>
+    <message>
+        <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
+        <translation>Cannot connect over WiFi to %1:%2. Check the address and that the board is powered!</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>Connect the machine first!</translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation>Upload</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>正在上传 %1 (%2 MB)</source>
+        <translation>Uploading %1 (%2 MB)</translation>
+    </message>
+    <message>
+        <source>正在上传 %1: %2 / %3 MB</source>
+        <translation>Uploading %1: %2 / %3 MB</translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation>Upload failed: %1</translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation>Connected</translation>
+    </message>
+</context>
+<context>
+    <name>WifiToolsController</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation>WiFi settings</translation>
+    </message>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation>SD card files</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>Search for boards</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>Connect the machine first!</translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation>The IP address cannot be empty!</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,45 @@
     </message>
 </context>
 <context>
+    <name>ControllerSearchDialog</name>
+    <message>
+        <source>搜索设备</source>
+        <translation>搜索设备</translation>
+    </message>
+    <message>
+        <source>找到的设备：</source>
+        <translation>找到的设备：</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>正在搜索设备...</source>
+        <translation>正在搜索设备...</translation>
+    </message>
+    <message>
+        <source>搜索完成!</source>
+        <translation>搜索完成!</translation>
+    </message>
+    <message>
+        <source>未找到设备</source>
+        <translation>未找到设备</translation>
+    </message>
+    <message>
+        <source>请先选择设备</source>
+        <translation>请先选择设备</translation>
+    </message>
+</context>
+<context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
@@ -447,6 +486,29 @@
     </message>
 </context>
 <context>
+    <name>HttpThread</name>
+    <message>
+        <source>参数更改失败</source>
+        <translation>参数更改失败</translation>
+    </message>
+    <message>
+        <source>上一个文件仍在上传</source>
+        <translation>上一个文件仍在上传</translation>
+    </message>
+    <message>
+        <source>无法读取文件: %1</source>
+        <translation>无法读取文件: %1</translation>
+    </message>
+    <message>
+        <source>上传已取消</source>
+        <translation>上传已取消</translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation>上传失败: %1</translation>
+    </message>
+</context>
+<context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
@@ -661,6 +723,18 @@
     <message>
         <source>已连接到串口 %1</source>
         <translation>已连接到串口 %1</translation>
+    </message>
+    <message>
+        <source>已通过WiFi连接到 %1</source>
+        <translation>已通过WiFi连接到 %1</translation>
+    </message>
+    <message>
+        <source>WiFi连接已断开</source>
+        <translation>WiFi连接已断开</translation>
+    </message>
+    <message>
+        <source>WiFi连接意外断开!</source>
+        <translation>WiFi连接意外断开!</translation>
     </message>
 </context>
 <context>
@@ -883,6 +957,109 @@
     </message>
 </context>
 <context>
+    <name>SdFileManager</name>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation>SD卡文件管理</translation>
+    </message>
+    <message>
+        <source>设备：</source>
+        <translation>设备：</translation>
+    </message>
+    <message>
+        <source>文件名</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>总容量：</source>
+        <translation>总容量：</translation>
+    </message>
+    <message>
+        <source>已用：</source>
+        <translation>已用：</translation>
+    </message>
+    <message>
+        <source>可用：</source>
+        <translation>可用：</translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation>上传</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>运行</source>
+        <translation>运行</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>选择上传文件</source>
+        <translation>选择上传文件</translation>
+    </message>
+    <message>
+        <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
+        <translation>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>文件 %1 已存在，是否覆盖?</source>
+        <translation>文件 %1 已存在，是否覆盖?</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>确定删除文件 %1 吗?</source>
+        <translation>确定删除文件 %1 吗?</translation>
+    </message>
+    <message>
+        <source>确定运行文件 %1 吗?</source>
+        <translation>确定运行文件 %1 吗?</translation>
+    </message>
+    <message>
+        <source>读取SD卡文件列表失败</source>
+        <translation>读取SD卡文件列表失败</translation>
+    </message>
+    <message>
+        <source>删除文件失败</source>
+        <translation>删除文件失败</translation>
+    </message>
+    <message>
+        <source>运行文件失败</source>
+        <translation>运行文件失败</translation>
+    </message>
+    <message>
+        <source>上传文件失败</source>
+        <translation>上传文件失败</translation>
+    </message>
+</context>
+<context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
@@ -1019,6 +1196,97 @@
     </message>
 </context>
 <context>
+    <name>WIFI_She_Zhi</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation>WiFi设置</translation>
+    </message>
+    <message>
+        <source>设备网络信息</source>
+        <translation>设备网络信息</translation>
+    </message>
+    <message>
+        <source>模式：</source>
+        <translation>模式：</translation>
+    </message>
+    <message>
+        <source>网络名称：</source>
+        <translation>网络名称：</translation>
+    </message>
+    <message>
+        <source>状态：</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>IP地址：</source>
+        <translation>IP地址：</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>连接路由器(STA模式)</source>
+        <translation>连接路由器(STA模式)</translation>
+    </message>
+    <message>
+        <source>WiFi名称：</source>
+        <translation>WiFi名称：</translation>
+    </message>
+    <message>
+        <source>WiFi密码：</source>
+        <translation>WiFi密码：</translation>
+    </message>
+    <message>
+        <source>显示密码</source>
+        <translation>显示密码</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>设备热点(AP模式)</source>
+        <translation>设备热点(AP模式)</translation>
+    </message>
+    <message>
+        <source>设备地址 192.168.0.1</source>
+        <translation>设备地址 192.168.0.1</translation>
+    </message>
+    <message>
+        <source>切换到AP模式</source>
+        <translation>切换到AP模式</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>STA模式(连接路由器)</source>
+        <translation>STA模式(连接路由器)</translation>
+    </message>
+    <message>
+        <source>AP模式(设备热点)</source>
+        <translation>AP模式(设备热点)</translation>
+    </message>
+    <message>
+        <source>密码或账号不能为空!</source>
+        <translation>密码或账号不能为空!</translation>
+    </message>
+    <message>
+        <source>密码长度不匹配</source>
+        <translation>密码长度不匹配</translation>
+    </message>
+    <message>
+        <source>账号或密码不能包含!,？,~,$符号</source>
+        <translation>账号或密码不能包含!,？,~,$符号</translation>
+    </message>
+    <message>
+        <source>目前仅支持英文,数字,符号输入</source>
+        <translation>目前仅支持英文,数字,符号输入</translation>
+    </message>
+</context>
+<context>
     <name>Widget</name>
     <message>
         <source>文件</source>
@@ -1123,6 +1391,80 @@
     <message>
         <source>提示</source>
         <translation>提示</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>工具</translation>
+    </message>
+</context>
+<context>
+    <name>WifiLinkController</name>
+    <message>
+        <source>请先断开串口连接!</source>
+        <translation>请先断开串口连接!</translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation>IP不能为空!</translation>
+    </message>
+    <message>
+        <source>端口号无效: %1</source>
+        <translation>端口号无效: %1</translation>
+    </message>
+    <message>
+        <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
+        <translation>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>请先连接设备!</translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation>上传</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>正在上传 %1 (%2 MB)</source>
+        <translation>正在上传 %1 (%2 MB)</translation>
+    </message>
+    <message>
+        <source>正在上传 %1: %2 / %3 MB</source>
+        <translation>正在上传 %1: %2 / %3 MB</translation>
+    </message>
+    <message>
+        <source>上传失败: %1</source>
+        <translation>上传失败: %1</translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation>已连接</translation>
+    </message>
+</context>
+<context>
+    <name>WifiToolsController</name>
+    <message>
+        <source>WiFi设置</source>
+        <translation>WiFi设置</translation>
+    </message>
+    <message>
+        <source>SD卡文件管理</source>
+        <translation>SD卡文件管理</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>搜索设备</translation>
+    </message>
+    <message>
+        <source>请先连接设备!</source>
+        <translation>请先连接设备!</translation>
+    </message>
+    <message>
+        <source>IP不能为空!</source>
+        <translation>IP不能为空!</translation>
     </message>
 </context>
 <context>
