@@ -21,6 +21,8 @@
 #include "settings_store.h"
 #include "tu_ceng.h"
 #include "tu_ceng_item2.h"
+#include "wifi_she_zhi.h"
+#include "wifi_tools_controller.h"
 
 #include <QBuffer>
 #include <QComboBox>
@@ -583,6 +585,26 @@ private slots:
         QVERIFY(w.close()); // nothing drawn: no unsaved question
         QVERIFY(fake.realTimeBytes().contains("!\x18"));
         QTRY_VERIFY(fake.lines().contains(QStringLiteral("M5")));
+    }
+
+    // The board's radio setup goes over the serial link when that is the
+    // link in use.
+    void radioSetupGoesOverSerial()
+    {
+        GrblFake fake;
+        QVERIFY(fake.start());
+        Widget w;
+        w.show();
+        child<QComboBox>(&w, "port_Box")->setEditText(fake.portName());
+        child<QPushButton>(&w, "connect_Btn")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(programState().connectionMode, int(SerialLink), 5000);
+        w.wifiTools()->openSetup();
+        QWidget *setup = w.wifiTools()->setupDialog();
+        QVERIFY(setup && setup->isVisible());
+        child<QPushButton>(setup, "ap_Btn")->click();
+        QTRY_VERIFY(fake.lines().contains(QStringLiteral("$Radio/Mode=AP")));
+        QTRY_VERIFY(fake.lines().contains(QStringLiteral("$I")));
+        QVERIFY(m_asked.requests.isEmpty());
     }
 
     // Saving and reopening used to reverse the stacking order, and with it
