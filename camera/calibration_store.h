@@ -6,6 +6,7 @@
 #include <QString>
 
 class HttpThread;
+class QTemporaryFile;
 
 // The calibration as the main window holds it: the state (0 none, 1 must be
 // read from the board before the next photo, 2 loaded) and P1..P4. GUI thread.
@@ -45,4 +46,5 @@ private:
     int m_state = 0;
     int m_timeoutMs = 5000;
     lumitra::camera::CalibrationPoints m_points;
+    QTemporaryFile *m_uploadFile = nullptr; // kept while the upload reads it
 };

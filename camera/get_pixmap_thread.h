@@ -24,6 +24,12 @@ public:
     int retryDelayMs() const;
     // Pause between failed attempts (500 ms by default). Set before start().
     void setRetryDelayMs(int ms);
+    // Attempts before giving up with gaveUp(); 0 (the default) never gives up.
+    int maxAttempts() const;
+    void setMaxAttempts(int attempts);
+    // An attempt without a complete answer after this long fails (10000 ms).
+    int attemptTimeoutMs() const;
+    void setAttemptTimeoutMs(int ms);
 
     // Starts the fetch; does nothing while one is running.
     void start();
@@ -39,6 +45,8 @@ signals:
     void imageReady(const QImage &image);
     // One attempt failed (network error, HTTP error or undecodable body).
     void attemptFailed(const QString &error);
+    // maxAttempts() attempts failed; the thread has ended. finished() follows.
+    void gaveUp(const QString &lastError);
     void finished();
 
 private:

@@ -226,6 +226,17 @@ void FakeBoard::failRoute(const QString &path, int status)
         m_failures.insert(path, status);
 }
 
+void FakeBoard::setCameraImage(const QByteArray &bytes)
+{
+    m_cameraImage = bytes;
+}
+
+void FakeBoard::failCameraRequests(int count, CameraFailure how)
+{
+    m_cameraFailuresLeft = count;
+    m_cameraFailure = how;
+}
+
 QStringList FakeBoard::cardFiles() const
 {
     return m_card.keys();
@@ -515,6 +526,24 @@ void FakeBoard::handleRequest(Connection &c, QTcpSocket *socket)
                 QFile::remove(m_card.take(name));
         }
         respond(socket, 200, cardListJson(), "application/json");
+        return;
+    }
+    if (path == QLatin1String("/cam.jpg")) {
+        ++m_cameraRequests;
+        if (m_cameraFailuresLeft > 0) {
+            --m_cameraFailuresLeft;
+            if (m_cameraFailure == CameraFailure::DropConnection) {
+                socket->abort();
+                return;
+            }
+            respond(socket, 500, "camera busy");
+            return;
+        }
+        if (m_cameraImage.isEmpty()) {
+            respond(socket, 404, "no camera");
+            return;
+        }
+        respond(socket, 200, m_cameraImage, "image/jpeg");
         return;
     }
     if (path.startsWith(QLatin1String("/SD/"))) {

@@ -29,6 +29,8 @@ class QTimer;
 //                                          text with a unit, "123 B", "1.21 KB", "3.50 MB")
 //   GET  /upload?path=/&action=delete&filename=NAME&PAGEID=0
 //   GET  /SD/NAME                          the file's bytes
+//   GET  /cam.jpg                          the camera still set by setCameraImage (404
+//                                          while none); the first N requests can fail
 // Replies to commands go out as GRBL lines ("\r\n"-ended) in binary frames
 // (text frames on request), `linesPerFrame` lines packed into one frame, each
 // frame optionally split in two at its middle. A new WebSocket client first gets
@@ -78,6 +80,14 @@ public:
     void setStalled(bool stalled); // accept, never answer (HTTP, WS handshake, status stream)
     void dropWebSockets();         // abort every WebSocket (no close frame)
     void failRoute(const QString &path, int status); // e.g. ("/upload", 500); 0 clears
+
+    // The camera: the bytes "/cam.jpg" answers with (image/jpeg).
+    enum class CameraFailure { Status500, DropConnection };
+    void setCameraImage(const QByteArray &bytes);
+    // The next `count` camera requests fail: HTTP 500, or the connection is
+    // closed without an answer.
+    void failCameraRequests(int count, CameraFailure how = CameraFailure::Status500);
+    int cameraRequests() const { return m_cameraRequests; }
 
     // Every decoded commandText in order, every plain line in order.
     QStringList commands() const { return m_commands; }
@@ -149,4 +159,8 @@ private:
     bool m_jobRunning = false;
     qint64 m_jobElapsedMs = 0;
     QString m_jobFile;
+    QByteArray m_cameraImage;
+    int m_cameraFailuresLeft = 0;
+    CameraFailure m_cameraFailure = CameraFailure::Status500;
+    int m_cameraRequests = 0;
 };
