@@ -1,6 +1,7 @@
 #include "application.h"
 
 #include "command_line.h"
+#include "headless_camera.h"
 #include "headless_run.h"
 #include "headless_wifi_run.h"
 #include "importer_registry.h"
@@ -65,6 +66,16 @@ int runWifiSender(const CommandLine &cl)
     return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, cl.runFile, out, err);
 }
 
+// --camera ... -o: the straightened photo of the work area, as the window
+// would show it under the design.
+int runCameraPhoto(const CommandLine &cl)
+{
+    // Each failed attempt is logged; the one line on stderr says it all.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
+    QTextStream err(stderr);
+    return takeCameraPhotoHeadless(cl.cameraAddress, cl.output, err);
+}
+
 int runWindow(QApplication &app, const CommandLine &cl)
 {
     const QString languageFile = load_language();
@@ -125,6 +136,8 @@ int run_application(int argc, char **argv)
         return runSender(cl);
     case CommandLine::WifiRun:
         return runWifiSender(cl);
+    case CommandLine::Camera:
+        return runCameraPhoto(cl);
     case CommandLine::Exit:
     case CommandLine::Window:
         break;

@@ -22,7 +22,9 @@ CommandLine parse_command_line(const QStringList &arguments)
                        "  --export INPUT -o OUTPUT   write the G-code job of a design file\n"
                        "  --port PORT --run FILE     stream a G-code file to a controller\n"
                        "  --wifi HOST[:PORT] --run FILE [--ws-port N]\n"
-                       "                             run a G-code file on a WiFi controller"));
+                       "                             run a G-code file on a WiFi controller\n"
+                       "  --camera HOST[:PORT] -o PHOTO.png\n"
+                       "                             save the straightened camera photo"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption exportOpt(QStringLiteral("export"),
@@ -46,6 +48,11 @@ CommandLine parse_command_line(const QStringList &arguments)
                                        QStringLiteral("WebSocket port of the WiFi controller "
                                                       "(default 81)."),
                                        QStringLiteral("N"));
+    const QCommandLineOption cameraOpt(
+        QStringLiteral("camera"),
+        QStringLiteral("Address of a WiFi controller whose calibrated camera photo is saved to "
+                       "-o (HTTP port 80 unless given)."),
+        QStringLiteral("HOST[:PORT]"));
     const QCommandLineOption homeOpt(QStringLiteral("home"),
                                      QStringLiteral("Home the machine before the job."));
     parser.addOption(exportOpt);
@@ -67,6 +74,7 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(homeOpt);
     parser.addOption(wifiOpt);
     parser.addOption(wsPortOpt);
+    parser.addOption(cameraOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Design files to open in the window."),
                                  QStringLiteral("[files...]"));
@@ -99,6 +107,19 @@ CommandLine parse_command_line(const QStringList &arguments)
     };
     if (exporting && running)
         return usage(QStringLiteral("--export and --run cannot be used together"));
+    if (parser.isSet(cameraOpt)) {
+        if (exporting || running || parser.isSet(homeOpt) || parser.isSet(wsPortOpt))
+            return usage(QStringLiteral("--camera is used alone with -o PHOTO"));
+        if (!parser.isSet(outputOpt))
+            return usage(QStringLiteral("--camera needs -o PHOTO"));
+        for (const QString &name : process_option_names())
+            if (parser.isSet(name))
+                return usage(QStringLiteral("--%1 is only used with --export").arg(name));
+        result.mode = CommandLine::Camera;
+        result.cameraAddress = parser.value(cameraOpt);
+        result.output = parser.value(outputOpt);
+        return result;
+    }
     if (exporting) {
         if (!parser.isSet(outputOpt))
             return usage(QStringLiteral("--export needs -o OUTPUT"));
@@ -143,7 +164,7 @@ CommandLine parse_command_line(const QStringList &arguments)
         if (parser.isSet(name))
             return usage(QStringLiteral("--%1 is only used with --export").arg(name));
     if (parser.isSet(outputOpt))
-        return usage(QStringLiteral("-o is only used with --export"));
+        return usage(QStringLiteral("-o is only used with --export or --camera"));
     if (parser.isSet(homeOpt))
         return usage(QStringLiteral("--home is only used with --run"));
     result.filesToOpen = parser.positionalArguments();

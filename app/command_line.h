@@ -9,7 +9,7 @@ namespace lumitra {
 // What the command line asks the one executable to do.
 struct CommandLine
 {
-    enum Mode { Window, Export, Run, Exit, WifiRun };
+    enum Mode { Window, Export, Run, Exit, WifiRun, Camera };
     Mode mode = Window;
     int exitCode = 0; // for Exit: --help, --version or a usage error
     QString message;  // printed for Exit (stdout when exitCode is 0, else stderr)
@@ -29,6 +29,10 @@ struct CommandLine
     // given (HTTP port 80 when absent) and its WebSocket port.
     QString wifiAddress;
     int wsPort = 81;
+
+    // --camera HOST[:PORT] -o PHOTO: the board whose straightened camera
+    // photo is written to `output`.
+    QString cameraAddress;
 
     // Window mode: design files named on the command line are opened.
     QStringList filesToOpen;
