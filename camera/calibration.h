@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QPainterPath>
 #include <QPointF>
 #include <QString>
@@ -46,3 +47,5 @@ CalibrationPoints orderClicks(const QVector<QPointF> &four);
 QVector<QPainterPath> calibrationMarkPaths(int width, int height);
 
 } // namespace lumitra::camera
+
+Q_DECLARE_METATYPE(lumitra::camera::CalibrationPoints)

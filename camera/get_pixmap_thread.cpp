@@ -59,6 +59,9 @@ private:
         }
         qWarning().noquote() << "Failed to load image:" << error;
         emit attemptFailed(error);
+        // The next attempt starts on a fresh connection, not on one the
+        // board may have left half closed.
+        m_manager->clearConnectionCache();
         if (m_maxAttempts > 0 && m_attempts->loadAcquire() >= m_maxAttempts) {
             emit gaveUp(error);
             QThread::currentThread()->quit();
