@@ -107,6 +107,12 @@ QString CameraController::hostPort() const
     return l ? QStringLiteral("%1:%2").arg(l->host()).arg(l->httpPort()) : QString();
 }
 
+void CameraController::setStatus(const QString &text, bool cancellable)
+{
+    if (m_panel)
+        m_panel->setStatus(text, cancellable);
+}
+
 void CameraController::notice(const QString &text)
 {
     lumitra::show_notice(m_dialogParent, text);
@@ -155,7 +161,7 @@ void CameraController::takePhoto()
         return;
     }
     link()->sendCommand(QString::fromLatin1(kParkJog));
-    m_panel->setStatus(tr("正在移动激光头..."), true);
+    setStatus(tr("正在移动激光头..."), true);
     m_settle.start(m_jogSettleMs);
 }
 
@@ -175,13 +181,13 @@ void CameraController::startFetch()
     }
     m_fetch->setRetryDelayMs(m_retryDelayMs);
     m_fetch->start();
-    m_panel->setStatus(tr("正在获取照片..."), true);
+    setStatus(tr("正在获取照片..."), true);
 }
 
 void CameraController::onAttemptFailed(const QString &error)
 {
     const int attempts = m_fetch ? m_fetch->attempts() : 0;
-    m_panel->setStatus(tr("获取照片失败,正在重试(第%1次): %2").arg(attempts).arg(error), true);
+    setStatus(tr("获取照片失败,正在重试(第%1次): %2").arg(attempts).arg(error), true);
 }
 
 void CameraController::cancelFetch()
@@ -190,8 +196,8 @@ void CameraController::cancelFetch()
     m_settle.stop();
     if (m_fetch)
         m_fetch->cancel();
-    if (wasFetching && m_panel)
-        m_panel->setStatus(tr("已取消拍照"), false);
+    if (wasFetching)
+        setStatus(tr("已取消拍照"), false);
 }
 
 void CameraController::closePanel()
@@ -200,7 +206,8 @@ void CameraController::closePanel()
                                tr("确定"), tr("是否关闭当前拍照"), tr("提示")))
         return;
     cancelFetch();
-    m_panel->hide();
+    if (m_panel)
+        m_panel->hide();
 }
 
 void CameraController::showPanel()
@@ -212,7 +219,7 @@ void CameraController::showPanel()
 void CameraController::onImageReady(const QImage &image)
 {
     const QImage turned = lumitra::camera::turnHalf(image);
-    m_panel->setStatus(tr("照片已获取"), false);
+    setStatus(tr("照片已获取"), false);
     if (m_dialog && m_dialog->isVisible()) {
         m_dialog->setPhoto(QPixmap::fromImage(turned));
         return;

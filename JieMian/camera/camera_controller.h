@@ -90,6 +90,7 @@ private:
     void setPhoto(const QPixmap &photo);
     void applyPhoto();
     void showPanel();
+    void setStatus(const QString &text, bool cancellable);
     void notice(const QString &text);
 
     MachineController *m_machine;
