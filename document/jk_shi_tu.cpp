@@ -38,6 +38,43 @@ Jk_shi_tu::Jk_shi_tu(Jk_chang_jing *scene, QWidget *parent) : QGraphicsView(scen
     fitWorkArea();
 }
 
+void Jk_shi_tu::setBackgroundPhoto(const QPixmap &photo, const QRectF &sceneRect)
+{
+    m_photo.pixmap = photo;
+    m_photo.rect = sceneRect;
+    resetCachedContent();
+    viewport()->update();
+}
+
+void Jk_shi_tu::clearBackgroundPhoto()
+{
+    setBackgroundPhoto(QPixmap(), QRectF());
+}
+
+void Jk_shi_tu::setPhotoOpacity(double opacity)
+{
+    m_photo.opacity = qBound(0.0, opacity, 1.0);
+    resetCachedContent();
+    viewport()->update();
+}
+
+void Jk_shi_tu::setPhotoHidden(bool hidden)
+{
+    m_photo.hidden = hidden;
+    resetCachedContent();
+    viewport()->update();
+}
+
+void Jk_shi_tu::drawBackground(QPainter *painter, const QRectF &rect)
+{
+    // Without a photo of its own the view shows the scene's background.
+    if (m_photo.pixmap.isNull()) {
+        QGraphicsView::drawBackground(painter, rect);
+        return;
+    }
+    paintWorkArea(painter, rect, Jk_chang_jing::workAreaRect(), m_photo);
+}
+
 Jk_chang_jing *Jk_shi_tu::designScene() const
 {
     return qobject_cast<Jk_chang_jing *>(scene());

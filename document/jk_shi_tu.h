@@ -1,5 +1,7 @@
 #pragma once
 
+#include "work_area_background.h"
+
 #include <QGraphicsView>
 #include <QPointer>
 
@@ -12,7 +14,9 @@ class SelectRectItem;
 // cursor with the wheel, panning with the middle button (or Space and the left
 // button), fit-to-work-area, and the rubber-band selection rectangle
 // `SelectRectItem` on empty canvas. Scroll bars stay hidden; the view can
-// travel far beyond the work area. GUI thread only.
+// travel far beyond the work area. It may draw a photo of the work area under
+// the design (background only, never an item, so never part of a job).
+// GUI thread only.
 class Jk_shi_tu : public QGraphicsView
 {
     Q_OBJECT
@@ -40,6 +44,15 @@ public:
     // The rubber band while the user drags one, else nullptr.
     SelectRectItem *rubberBandItem() const { return m_band; }
 
+    // The photo under the design, drawn into `sceneRect` (mm) instead of the
+    // scene's own background picture; a null pixmap removes it.
+    void setBackgroundPhoto(const QPixmap &photo, const QRectF &sceneRect);
+    void clearBackgroundPhoto();
+    // 0 (invisible) .. 1 (opaque); values outside are clamped.
+    void setPhotoOpacity(double opacity);
+    void setPhotoHidden(bool hidden);
+    const BackgroundPhoto &backgroundPhoto() const { return m_photo; }
+
 signals:
     // The pointer's scene position in mm, for a coordinate display.
     void cursorMoved(const QPointF &scenePos);
@@ -50,6 +63,7 @@ signals:
     void zoomChanged(double pixelsPerMm);
 
 protected:
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -75,4 +89,5 @@ private:
     bool m_panning = false;
     bool m_spaceHeld = false;
     QPoint m_lastPanPos;
+    BackgroundPhoto m_photo;
 };

@@ -33,11 +33,25 @@ double gridStepFor(double pixelsPerMm)
 void paintWorkArea(QPainter *painter, const QRectF &exposed, const QRectF &area,
                    const QPixmap &photo)
 {
+    BackgroundPhoto stretched;
+    stretched.pixmap = photo;
+    stretched.rect = area;
+    paintWorkArea(painter, exposed, area, stretched);
+}
+
+void paintWorkArea(QPainter *painter, const QRectF &exposed, const QRectF &area,
+                   const BackgroundPhoto &photo)
+{
     painter->save();
     painter->fillRect(exposed, QColor(214, 214, 214));
     painter->fillRect(area, Qt::white);
-    if (!photo.isNull())
-        painter->drawPixmap(area, photo, QRectF(photo.rect()));
+    if (photo.visible() && photo.rect.intersects(exposed)) {
+        painter->save();
+        painter->setOpacity(qBound(0.0, photo.opacity, 1.0));
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        painter->drawPixmap(photo.rect, photo.pixmap, QRectF(photo.pixmap.rect()));
+        painter->restore();
+    }
 
     const QRectF clip = exposed.intersected(area);
     if (!clip.isEmpty()) {
