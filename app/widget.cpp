@@ -2,12 +2,14 @@
 #include "ui_widget.h"
 
 #include "align_panel.h"
+#include "camera_controller.h"
 #include "close_guard.h"
 #include "design_pages.h"
 #include "edit_controller.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
 #include "import_actions.h"
+#include "jiao_zhun.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "job_preview_dialog.h"
@@ -19,6 +21,7 @@
 #include "machine_controller.h"
 #include "machine_panel.h"
 #include "message_box.h"
+#include "photo_panel.h"
 #include "program_state.h"
 #include "project_commands.h"
 #include "recent_files_menu.h"
@@ -227,6 +230,10 @@ void Widget::setupMachine()
         new WifiToolsController(m_machine, m_wifi, ui->ip_Edit, ui->port_Edit, this, this);
     auto *tools = new QMenu(this);
     tools->addActions(m_wifiTools->actions());
+    // The camera: calibration and the photo under the design (WiFi boards).
+    m_camera = new CameraController(m_machine, m_wifi, m_jobs, m_pages, this, this);
+    tools->addSeparator();
+    tools->addActions(m_camera->actions());
     ui->tools_Btn->setMenu(tools);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });

@@ -23,6 +23,7 @@ class ProjectCommands;
 class Tu_Ceng_Zhi;
 class WifiLinkController;
 class WifiToolsController;
+class CameraController;
 
 namespace lumitra {
 class LanguageController;
@@ -51,6 +52,7 @@ public:
     EditController *editController() const { return m_edit; }
     WifiLinkController *wifiController() const { return m_wifi; }
     WifiToolsController *wifiTools() const { return m_wifiTools; }
+    CameraController *cameraController() const { return m_camera; }
 
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
@@ -100,4 +102,5 @@ private:
     MachineController *m_machine = nullptr;
     WifiLinkController *m_wifi = nullptr;
     WifiToolsController *m_wifiTools = nullptr;
+    CameraController *m_camera = nullptr;
 };

@@ -145,6 +145,7 @@ void WifiLinkController::uploadAndRun(const QString &path)
     m_progress->setRange(0, 1000);
     m_progress->setValue(0);
     m_progress->show();
+    m_jobUploading = true;
     m_link->uploadFile(path, jobName());
 }
 
@@ -159,6 +160,10 @@ void WifiLinkController::onUploadProgress(qint64 sent, qint64 total)
 
 void WifiLinkController::onUploadFinished(bool ok, const QString &error)
 {
+    // Only an upload this controller began is a job to start.
+    if (!m_jobUploading)
+        return;
+    m_jobUploading = false;
     if (m_progress) {
         m_progress->hide();
         m_progress->deleteLater();

@@ -64,5 +64,6 @@ private:
     QPointer<QProgressDialog> m_progress;
     int m_wsPort = 81;
     int m_connectTimeoutMs = 5000;
-    bool m_closing = false; // the user asked to disconnect
+    bool m_closing = false;      // the user asked to disconnect
+    bool m_jobUploading = false; // the upload in flight is a job to start
 };

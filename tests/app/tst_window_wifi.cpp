@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTemporaryFile>
 #include <QToolButton>
 
 using namespace lumitra;
@@ -84,6 +85,17 @@ private slots:
         QCOMPARE(programState().connectionMode, int(NotConnected));
         QCOMPARE(child<QPushButton>(&w, "wifi_Btn")->text(), QStringLiteral("WIFI"));
         QVERIFY(m_asked.requests.isEmpty());
+    }
+
+    // The camera works on the WiFi link only, and says so from the menu.
+    void cameraNeedsWifi()
+    {
+        Widget w;
+        QMenu *tools = child<QToolButton>(&w, "tools_Btn")->menu();
+        tools->actions().at(5)->trigger(); // take photo
+        tools->actions().at(4)->trigger(); // calibrate
+        QCOMPARE(m_asked.messages(), (QStringList{QStringLiteral("使用相机必须要在WiFi模式!"),
+                                                  QStringLiteral("使用相机必须要在WiFi模式!")}));
     }
 
     void refusedConnectIsTold()
@@ -180,7 +192,12 @@ private slots:
         w.show();
         QVERIFY(connectWindow(w, board));
         QMenu *tools = child<QToolButton>(&w, "tools_Btn")->menu();
-        QCOMPARE(tools->actions().size(), 3);
+        QStringList names;
+        for (QAction *a : tools->actions())
+            names << a->text();
+        QCOMPARE(names, (QStringList{QStringLiteral("WiFi设置"), QStringLiteral("SD卡文件管理"),
+                                     QStringLiteral("搜索设备"), QString(),
+                                     QStringLiteral("校准摄像头"), QStringLiteral("拍照")}));
 
         tools->actions().at(0)->trigger(); // WiFi setup
         WIFI_She_Zhi *setup = w.wifiTools()->setupDialog();
@@ -216,6 +233,27 @@ private slots:
         QCOMPARE(child<QLineEdit>(&w, "ip_Edit")->text(), QStringLiteral("127.0.0.1"));
         QCOMPARE(child<QLineEdit>(&w, "port_Edit")->text(), QString::number(board.httpPort()));
         QVERIFY(m_asked.requests.isEmpty());
+    }
+
+    // Only a job the window uploaded is started: another file going up the
+    // same link (a calibration, say) never re-runs the last job.
+    void onlyJobUploadsAreStarted()
+    {
+        FakeBoard board;
+        QVERIFY(board.start());
+        Widget w;
+        QVERIFY(connectWindow(w, board));
+        QTemporaryFile other;
+        QVERIFY(other.open());
+        other.write("J1,2J3,4J5,6J7,8");
+        other.close();
+        QSignalSpy done(w.wifiController()->link(), &HttpThread::uploadFinished);
+        w.wifiController()->link()->uploadFile(other.fileName(), QStringLiteral("notes.txt"));
+        QVERIFY(done.wait(5000));
+        QCOMPARE(board.cardFile(QStringLiteral("notes.txt")), QByteArray("J1,2J3,4J5,6J7,8"));
+        QTest::qWait(100);
+        for (const QString &c : board.commands())
+            QVERIFY2(!c.startsWith(QStringLiteral("[ESP220]")), qPrintable(c));
     }
 };
 
