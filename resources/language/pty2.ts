@@ -104,6 +104,100 @@
     </message>
 </context>
 <context>
+    <name>CalibrationStore</name>
+    <message>
+        <source>请先在设置界面校准摄像头!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CameraController</name>
+    <message>
+        <source>校准摄像头</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备没有响应,请检查WiFi连接!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备运行中禁用此功能!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>使用相机必须要在WiFi模式!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>继续拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轴模式不建议拍照!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移动激光头...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在获取照片...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>获取照片失败,正在重试(第%1次): %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已取消拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>是否关闭当前拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>照片已获取</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>校准数据无效,请重新校准摄像头!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>是否校准摄像头</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>校准数据保存失败: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
@@ -517,6 +611,29 @@
     </message>
 </context>
 <context>
+    <name>JiaoZhun</name>
+    <message>
+        <source>校准摄像头</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下一步</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已选择 %1/%2 个点</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
@@ -878,6 +995,29 @@
     </message>
     <message>
         <source>图片无法读取!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PhotoPanel</name>
+    <message>
+        <source>拍照</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>照片透明度</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>隐藏照片</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -104,6 +104,100 @@
     </message>
 </context>
 <context>
+    <name>CalibrationStore</name>
+    <message>
+        <source>请先在设置界面校准摄像头!</source>
+        <translation>Calibrate the camera in the settings first!</translation>
+    </message>
+</context>
+<context>
+    <name>CameraController</name>
+    <message>
+        <source>校准摄像头</source>
+        <translation>Calibrate camera</translation>
+    </message>
+    <message>
+        <source>拍照</source>
+        <translation>Take photo</translation>
+    </message>
+    <message>
+        <source>设备没有响应,请检查WiFi连接!</source>
+        <translation>The board does not answer. Check the WiFi link!</translation>
+    </message>
+    <message>
+        <source>设备运行中禁用此功能!</source>
+        <translation>Not available while the machine is running!</translation>
+    </message>
+    <message>
+        <source>使用相机必须要在WiFi模式!</source>
+        <translation>The camera works only over WiFi!</translation>
+    </message>
+    <message>
+        <source>取消拍照</source>
+        <translation>Cancel photo</translation>
+    </message>
+    <message>
+        <source>继续拍照</source>
+        <translation>Take it anyway</translation>
+    </message>
+    <message>
+        <source>滚轴模式不建议拍照!</source>
+        <translation>Taking a photo in rotary mode is not recommended!</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>正在移动激光头...</source>
+        <translation>Moving the laser head...</translation>
+    </message>
+    <message>
+        <source>正在获取照片...</source>
+        <translation>Fetching the photo...</translation>
+    </message>
+    <message>
+        <source>获取照片失败,正在重试(第%1次): %2</source>
+        <translation>Fetching the photo failed, trying again (attempt %1): %2</translation>
+    </message>
+    <message>
+        <source>已取消拍照</source>
+        <translation>Photo cancelled</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>是否关闭当前拍照</source>
+        <translation>Close the current photo?</translation>
+    </message>
+    <message>
+        <source>照片已获取</source>
+        <translation>Photo received</translation>
+    </message>
+    <message>
+        <source>校准数据无效,请重新校准摄像头!</source>
+        <translation>The calibration is not valid. Calibrate the camera again!</translation>
+    </message>
+    <message>
+        <source>是否校准摄像头</source>
+        <translation>Calibrate the camera?</translation>
+    </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>The machine is engraving; not available for now!</translation>
+    </message>
+    <message>
+        <source>校准数据保存失败: %1</source>
+        <translation>Saving the calibration failed: %1</translation>
+    </message>
+</context>
+<context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
@@ -520,6 +614,29 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>JiaoZhun</name>
+    <message>
+        <source>校准摄像头</source>
+        <translation>Calibrate camera</translation>
+    </message>
+    <message>
+        <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
+        <translation>When the marks are burnt, press "Next" to take a photo, then click the centres of the four crosses on it</translation>
+    </message>
+    <message>
+        <source>下一步</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>已选择 %1/%2 个点</source>
+        <translation>%1 of %2 points chosen</translation>
+    </message>
+</context>
+<context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
@@ -885,6 +1002,29 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>PhotoPanel</name>
+    <message>
+        <source>拍照</source>
+        <translation>Take photo</translation>
+    </message>
+    <message>
+        <source>照片透明度</source>
+        <translation>Photo opacity</translation>
+    </message>
+    <message>
+        <source>隐藏照片</source>
+        <translation>Hide photo</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
@@ -1044,7 +1184,7 @@ Continue?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation>Reading the card's file list failed</translation>
+        <translation>Reading the card&apos;s file list failed</translation>
     </message>
     <message>
         <source>删除文件失败</source>
