@@ -5,1621 +5,1625 @@
     <name>AlignPanel</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichten</translation>
     </message>
     <message>
         <source>左对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Links ausrichten</translation>
     </message>
     <message>
         <source>水平居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal zentrieren</translation>
     </message>
     <message>
         <source>右对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts ausrichten</translation>
     </message>
     <message>
         <source>顶对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben ausrichten</translation>
     </message>
     <message>
         <source>垂直居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal zentrieren</translation>
     </message>
     <message>
         <source>底对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten ausrichten</translation>
     </message>
     <message>
         <source>工作区居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Arbeitsbereich zentrieren</translation>
     </message>
     <message>
         <source>水平等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal verteilen</translation>
     </message>
     <message>
         <source>垂直等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal verteilen</translation>
     </message>
 </context>
 <context>
     <name>ArrayDialog</name>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Array</translation>
     </message>
     <message>
         <source>矩形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteckiges Array</translation>
     </message>
     <message>
         <source>行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen:</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten:</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Spaltenabstand (mm):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenabstand (mm):</translation>
     </message>
     <message>
         <source>圆形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreisförmiges Array</translation>
     </message>
     <message>
         <source>数量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl:</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte X (mm):</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte Y (mm):</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkelbereich (°):</translation>
     </message>
     <message>
         <source>旋转副本</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopien drehen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die Kamera in den Einstellungen kalibrieren!</translation>
     </message>
 </context>
 <context>
     <name>CameraController</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera kalibrieren</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto aufnehmen</translation>
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Controller antwortet nicht. Bitte die WLAN-Verbindung prüfen!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar, während die Maschine läuft!</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera funktioniert nur über WLAN!</translation>
     </message>
     <message>
         <source>取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto abbrechen</translation>
     </message>
     <message>
         <source>继续拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem aufnehmen</translation>
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos im Drehachsen-Modus werden nicht empfohlen!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>正在移动激光头...</source>
-        <translation type="unfinished"></translation>
+        <translation>Laserkopf wird bewegt...</translation>
     </message>
     <message>
         <source>正在获取照片...</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto wird abgerufen...</translation>
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrufen des Fotos fehlgeschlagen, neuer Versuch (Versuch %1): %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto abgebrochen</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Foto schließen?</translation>
     </message>
     <message>
         <source>照片已获取</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto empfangen</translation>
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kalibrierung ist ungültig. Bitte die Kamera neu kalibrieren!</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera kalibrieren?</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern der Kalibrierung fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller suchen</translation>
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Controller:</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut suchen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>正在搜索设备...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Controllern...</translation>
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche abgeschlossen!</translation>
     </message>
     <message>
         <source>未找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Controller gefunden</translation>
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst einen Controller wählen</translation>
     </message>
 </context>
 <context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>修改图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene ändern</translation>
     </message>
     <message>
         <source>修改图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebeneneinstellungen ändern</translation>
     </message>
     <message>
         <source>移动图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene verschieben</translation>
     </message>
     <message>
         <source>删除图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene löschen</translation>
     </message>
 </context>
 <context>
     <name>DesignPages</name>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Seite</translation>
     </message>
     <message>
         <source>页面%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1</translation>
     </message>
     <message>
         <source>重命名页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite umbenennen</translation>
     </message>
     <message>
         <source>页面名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenname:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Schließen der Seite werden alle ihre Objekte gelöscht. Fortfahren?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
     <name>DxfImport</name>
     <message>
         <source>DXF 图形过于复杂</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Zeichnung ist zu komplex</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Datei ist zu groß</translation>
     </message>
     <message>
         <source>DXF 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Datei ist leer</translation>
     </message>
     <message>
         <source>DXF 文件已损坏</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Datei ist beschädigt</translation>
     </message>
 </context>
 <context>
     <name>EditCommand</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichten</translation>
     </message>
     <message>
         <source>等间距分布</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleichmäßig verteilen</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Array</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppieren</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung aufheben</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>修改文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text bearbeiten</translation>
     </message>
 </context>
 <context>
     <name>EditController</name>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>剪切</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>复制</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>粘贴</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>再制</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>水平镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>垂直镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal spiegeln</translation>
     </message>
     <message>
         <source>顺时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>90° im Uhrzeigersinn drehen</translation>
     </message>
     <message>
         <source>逆时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>90° gegen den Uhrzeigersinn drehen</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppieren</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung aufheben</translation>
     </message>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben...</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Array</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>矩形</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>椭圆</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>三角形</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreieck</translation>
     </message>
     <message>
         <source>五边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Fünfeck</translation>
     </message>
     <message>
         <source>六边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Sechseck</translation>
     </message>
     <message>
         <source>五角星</source>
-        <translation type="unfinished"></translation>
+        <translation>Stern</translation>
     </message>
     <message>
         <source>曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve</translation>
     </message>
 </context>
 <context>
     <name>GcodeJobController</name>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code speichern</translation>
     </message>
     <message>
         <source>G代码 (*.nc *.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code (*.nc *.gcode)</translation>
     </message>
     <message>
         <source>保存失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern fehlgeschlagen!</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte vor dem Start die Einstellungen im Drehachsen-Dialog prüfen!</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code-Erzeugung fehlgeschlagen!</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene %1: X %2..%3, Y %4..%5 mm</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>…und %1 weitere</translation>
     </message>
     <message>
         <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
 %4
 
 是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Objekt(e) liegen außerhalb des Arbeitsbereichs (%2 × %3 mm); die Maschine kann an die Endschalter fahren oder außerhalb der Arbeitsfläche brennen:
+%4
+
+Fortfahren?</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortfahren</translation>
     </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehachse</translation>
     </message>
     <message>
         <source>滚轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehachsen-Einstellungen</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehachsen-Modus:</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>周长</source>
-        <translation type="unfinished"></translation>
+        <translation>Umfang</translation>
     </message>
     <message>
         <source>直径</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse:</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Umfang (mm):</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser (mm):</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg pro Umdrehung:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>HttpThread</name>
     <message>
         <source>参数更改失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern der Einstellung fehlgeschlagen</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Die vorherige Datei wird noch hochgeladen</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen abgebrochen</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst eine Bitmap auswählen!</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bitmap enthält keine Konturen zum Vektorisieren!</translation>
     </message>
 </context>
 <context>
     <name>JiaoZhun</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera kalibrieren</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn die Markierungen graviert sind, auf „Weiter“ klicken, um ein Foto aufzunehmen, dann nacheinander die Mitten der vier Kreuze darauf anklicken</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>已选择 %1/%2 个点</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Punkten gewählt</translation>
     </message>
 </context>
 <context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Datei kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>DXF 坐标超出范围</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF-Koordinaten außerhalb des gültigen Bereichs</translation>
     </message>
     <message>
         <source>DXF 文件中没有可导入的图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Die DXF-Datei enthält keine importierbaren Objekte</translation>
     </message>
 </context>
 <context>
     <name>Jk_gcode</name>
     <message>
         <source>滚轴参数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Drehachsen-Einstellungen</translation>
     </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>文字设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Texteinstellungen</translation>
     </message>
     <message>
         <source>请输入文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text eingeben</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart:</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe (mm):</translation>
     </message>
     <message>
         <source>粗体</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>斜体</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenabstand (mm):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenabstand (mm):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>JobPreviewDialog</name>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschätzte Zeit:</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code-Zeilen:</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravurweg:</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerweg:</translation>
     </message>
     <message>
         <source>%1 秒</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
     <name>MachineController</name>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine hat einen Alarm ausgelöst!</translation>
     </message>
     <message>
         <source>警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die Maschine verbinden!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar, während die Maschine läuft!</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Testschuss</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die IP-Adresse darf nicht leer sein!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen</translation>
     </message>
     <message>
         <source>Files (*.nc);;Files (*.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien (*.nc);;Dateien (*.gcode)</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte einen seriellen Port wählen oder eingeben!</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Serieller Port %1 kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät an seriellem Port %1 hat nicht als GRBL-Controller geantwortet!</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler an seriellem Port %1 beim Verbinden: %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden mit seriellem Port %1</translation>
     </message>
     <message>
         <source>已通过WiFi连接到 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Über WLAN verbunden mit %1</translation>
     </message>
     <message>
         <source>WiFi连接已断开</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Verbindung getrennt</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Verbindung unerwartet verloren!</translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation type="unfinished"></translation>
+        <translation>COM:</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>归位</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenzfahrt</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Nullpunkt</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Nullpunkt setzen</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Nullpunkt löschen</translation>
     </message>
     <message>
         <source>移动到</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahren zu</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>运行文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei starten</translation>
     </message>
     <message>
         <source>走边框</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Testschuss</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
     <name>MoShiYuLan</name>
     <message>
         <source>模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Modusvorschau</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus:</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzweiß</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Dithering</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>MoveDialog</name>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>X (mm):</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (mm):</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite (mm):</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe (mm):</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung (°):</translation>
     </message>
     <message>
         <source>锁定比例</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis sperren</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu groß zum Öffnen!</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild kann nicht gelesen werden!</translation>
     </message>
 </context>
 <context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto aufnehmen</translation>
     </message>
     <message>
         <source>照片透明度</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto-Deckkraft</translation>
     </message>
     <message>
         <source>隐藏照片</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto ausblenden</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts zu speichern!</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei speichern</translation>
     </message>
     <message>
         <source>Files (*.lumitra)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien (*.lumitra)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen</translation>
     </message>
     <message>
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern fehlgeschlagen: %1
+%2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei existiert nicht: %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht unterstütztes Dateiformat: %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht importiert werden; sie enthält keine verwendbaren Objekte: %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder keine Projektdatei und kann nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt; nur der intakte Teil wurde geöffnet: %1</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>最近打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>(无)</source>
-        <translation type="unfinished"></translation>
+        <translation>(keine)</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste leeren</translation>
     </message>
 </context>
 <context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>SD-Karten-Dateien</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller:</translation>
     </message>
     <message>
         <source>文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt:</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegt:</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Frei:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>运行</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>选择上传文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei zum Hochladen wählen</translation>
     </message>
     <message>
         <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code-Dateien (*.nc *.gcode *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist bereits auf der Karte. Ersetzen?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 löschen?</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 starten?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen der Dateiliste der Karte fehlgeschlagen</translation>
     </message>
     <message>
         <source>删除文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen der Datei fehlgeschlagen</translation>
     </message>
     <message>
         <source>运行文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten der Datei fehlgeschlagen</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen der Datei fehlgeschlagen</translation>
     </message>
 </context>
 <context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
-        <translation type="unfinished"></translation>
+        <translation>Die SVG-Datei ist zu tief verschachtelt</translation>
     </message>
     <message>
         <source>SVG 文件格式错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Die SVG-Datei ist fehlerhaft</translation>
     </message>
     <message>
         <source>SVG 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>Die SVG-Datei ist leer</translation>
     </message>
     <message>
         <source>SVG 文件图形数量过多</source>
-        <translation type="unfinished"></translation>
+        <translation>Die SVG-Datei enthält zu viele Objekte</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>Die SVG-Datei ist zu groß</translation>
     </message>
 </context>
 <context>
     <name>TuCeng</name>
     <message>
         <source>线条</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>交叉填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreuzfüllung</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzweiß</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Dithering</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
     <message>
         <source>负像</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
 </context>
 <context>
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>上移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene nach oben</translation>
     </message>
     <message>
         <source>下移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene nach unten</translation>
     </message>
 </context>
 <context>
     <name>Tu_Ceng_Zhi</name>
     <message>
         <source>图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebeneneinstellungen</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllwinkel (°):</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienabstand (mm):</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Overscan (mm):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschw. (mm/min):</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung (%):</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgänge</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>单向</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidirektional</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>WIFI_She_Zhi</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Einstellungen</translation>
     </message>
     <message>
         <source>设备网络信息</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller-Netzwerk</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus:</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkname:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>连接路由器(STA模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Router verbinden (STA-Modus)</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Name:</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Passwort:</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort anzeigen</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller-Hotspot (AP-Modus)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller-Adresse 192.168.0.1</translation>
     </message>
     <message>
         <source>切换到AP模式</source>
-        <translation type="unfinished"></translation>
+        <translation>In AP-Modus wechseln</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>STA模式(连接路由器)</source>
-        <translation type="unfinished"></translation>
+        <translation>STA-Modus (Router)</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation type="unfinished"></translation>
+        <translation>AP-Modus (Hotspot)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkname und Passwort dürfen nicht leer sein!</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss 8 bis 90 Zeichen lang sein</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation type="unfinished"></translation>
+        <translation>Name und Passwort dürfen kein !, ?, ~ oder $ enthalten</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur englische Buchstaben, Ziffern und Symbole werden unterstützt</translation>
     </message>
 </context>
 <context>
     <name>Widget</name>
     <message>
         <source>文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>G-Code speichern</translation>
     </message>
     <message>
         <source>开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehachse</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehwinkel:</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>视图</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Objekte für die Vorschau!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die Maschine verbinden!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
     </message>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Seite</translation>
     </message>
     <message>
         <source>图像模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildmodus-Vorschau</translation>
     </message>
     <message>
         <source>描摹位图</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitmap vektorisieren</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Maschine</translation>
     </message>
     <message>
         <source>另存为</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>未命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Design ist nicht gespeichert. Jetzt beenden?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
 </context>
 <context>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die serielle Verbindung trennen!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die IP-Adresse darf nicht leer sein!</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Port: %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Verbindung zu %1:%2 nicht möglich. Bitte Adresse und Stromversorgung des Controllers prüfen!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die Maschine verbinden!</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>正在上传 %1 (%2 MB)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird hochgeladen (%2 MB)</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird hochgeladen: %2 / %3 MB</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden</translation>
     </message>
 </context>
 <context>
     <name>WifiToolsController</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Einstellungen</translation>
     </message>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>SD-Karten-Dateien</translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Controller suchen</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst die Maschine verbinden!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die IP-Adresse darf nicht leer sein!</translation>
     </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
     <message>
         <source>稍后重启</source>
-        <translation type="unfinished"></translation>
+        <translation>Später neu starten</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache geändert. Bitte das Programm neu starten!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 </TS>

@@ -5,1621 +5,1625 @@
     <name>AlignPanel</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Выравнивание</translation>
     </message>
     <message>
         <source>左对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>По левому краю</translation>
     </message>
     <message>
         <source>水平居中</source>
-        <translation type="unfinished"></translation>
+        <translation>По центру по горизонтали</translation>
     </message>
     <message>
         <source>右对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>По правому краю</translation>
     </message>
     <message>
         <source>顶对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>По верхнему краю</translation>
     </message>
     <message>
         <source>垂直居中</source>
-        <translation type="unfinished"></translation>
+        <translation>По центру по вертикали</translation>
     </message>
     <message>
         <source>底对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>По нижнему краю</translation>
     </message>
     <message>
         <source>工作区居中</source>
-        <translation type="unfinished"></translation>
+        <translation>По центру рабочей области</translation>
     </message>
     <message>
         <source>水平等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Распределить по горизонтали</translation>
     </message>
     <message>
         <source>垂直等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Распределить по вертикали</translation>
     </message>
 </context>
 <context>
     <name>ArrayDialog</name>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Массив</translation>
     </message>
     <message>
         <source>矩形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Прямоугольный массив</translation>
     </message>
     <message>
         <source>行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Строки:</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Столбцы:</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Шаг столбцов (мм):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Шаг строк (мм):</translation>
     </message>
     <message>
         <source>圆形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Круговой массив</translation>
     </message>
     <message>
         <source>数量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Количество:</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Центр X (мм):</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Центр Y (мм):</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Диапазон угла (°):</translation>
     </message>
     <message>
         <source>旋转副本</source>
-        <translation type="unfinished"></translation>
+        <translation>Поворачивать копии</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала откалибруйте камеру в настройках!</translation>
     </message>
 </context>
 <context>
     <name>CameraController</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Калибровка камеры</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Сделать фото</translation>
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Плата не отвечает. Проверьте WiFi-соединение!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Недоступно во время работы станка!</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation type="unfinished"></translation>
+        <translation>Камера работает только по WiFi!</translation>
     </message>
     <message>
         <source>取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить фото</translation>
     </message>
     <message>
         <source>继续拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё равно снять</translation>
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation type="unfinished"></translation>
+        <translation>В режиме ротатора снимать не рекомендуется!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>正在移动激光头...</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение лазерной головки...</translation>
     </message>
     <message>
         <source>正在获取照片...</source>
-        <translation type="unfinished"></translation>
+        <translation>Получение фото...</translation>
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить фото, повтор (попытка %1): %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Съёмка отменена</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть текущее фото?</translation>
     </message>
     <message>
         <source>照片已获取</source>
-        <translation type="unfinished"></translation>
+        <translation>Фото получено</translation>
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Калибровка недействительна. Откалибруйте камеру заново!</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Откалибровать камеру?</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт гравировка, функция временно недоступна!</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить калибровку: %1</translation>
     </message>
 </context>
 <context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск плат</translation>
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Найденные платы:</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Искать снова</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>正在搜索设备...</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск плат...</translation>
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск завершён!</translation>
     </message>
     <message>
         <source>未找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Платы не найдены</translation>
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала выберите плату</translation>
     </message>
 </context>
 <context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавление</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удаление</translation>
     </message>
     <message>
         <source>修改图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Смена слоя</translation>
     </message>
     <message>
         <source>修改图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменение параметров слоя</translation>
     </message>
     <message>
         <source>移动图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение слоя</translation>
     </message>
     <message>
         <source>删除图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Удаление слоя</translation>
     </message>
 </context>
 <context>
     <name>DesignPages</name>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая страница</translation>
     </message>
     <message>
         <source>页面%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Страница %1</translation>
     </message>
     <message>
         <source>重命名页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименовать страницу</translation>
     </message>
     <message>
         <source>页面名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя страницы:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>При закрытии страницы все её фигуры будут удалены. Продолжить?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
 </context>
 <context>
     <name>DxfImport</name>
     <message>
         <source>DXF 图形过于复杂</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF-чертёж слишком сложный</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF-файл слишком большой</translation>
     </message>
     <message>
         <source>DXF 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF-файл пуст</translation>
     </message>
     <message>
         <source>DXF 文件已损坏</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF-файл повреждён</translation>
     </message>
 </context>
 <context>
     <name>EditCommand</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Выравнивание</translation>
     </message>
     <message>
         <source>等间距分布</source>
-        <translation type="unfinished"></translation>
+        <translation>Равномерное распределение</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Массив</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Группировка</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Разгруппировка</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение</translation>
     </message>
     <message>
         <source>修改文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменение текста</translation>
     </message>
 </context>
 <context>
     <name>EditController</name>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторить</translation>
     </message>
     <message>
         <source>剪切</source>
-        <translation type="unfinished"></translation>
+        <translation>Вырезать</translation>
     </message>
     <message>
         <source>复制</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>粘贴</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>再制</source>
-        <translation type="unfinished"></translation>
+        <translation>Дублировать</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Выделить всё</translation>
     </message>
     <message>
         <source>水平镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Отразить по горизонтали</translation>
     </message>
     <message>
         <source>垂直镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Отразить по вертикали</translation>
     </message>
     <message>
         <source>顺时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Повернуть на 90° по часовой</translation>
     </message>
     <message>
         <source>逆时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Повернуть на 90° против часовой</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Сгруппировать</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Разгруппировать</translation>
     </message>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить...</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Массив</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор</translation>
     </message>
     <message>
         <source>直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Линия</translation>
     </message>
     <message>
         <source>矩形</source>
-        <translation type="unfinished"></translation>
+        <translation>Прямоугольник</translation>
     </message>
     <message>
         <source>椭圆</source>
-        <translation type="unfinished"></translation>
+        <translation>Эллипс</translation>
     </message>
     <message>
         <source>三角形</source>
-        <translation type="unfinished"></translation>
+        <translation>Треугольник</translation>
     </message>
     <message>
         <source>五边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Пятиугольник</translation>
     </message>
     <message>
         <source>六边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Шестиугольник</translation>
     </message>
     <message>
         <source>五角星</source>
-        <translation type="unfinished"></translation>
+        <translation>Звезда</translation>
     </message>
     <message>
         <source>曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Кривая</translation>
     </message>
 </context>
 <context>
     <name>GcodeJobController</name>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить G-код</translation>
     </message>
     <message>
         <source>G代码 (*.nc *.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>G-код (*.nc *.gcode)</translation>
     </message>
     <message>
         <source>保存失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить!</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>Перед запуском проверьте параметры в окне ротатора!</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать G-код!</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Слой %1: X %2..%3, Y %4..%5 мм</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>…и ещё %1</translation>
     </message>
     <message>
         <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
 %4
 
 是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Фигур вне рабочей области (%2 × %3 мм): %1. Станок может упереться в концевики или прожечь за пределами стола:
+%4
+
+Продолжить?</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить</translation>
     </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Ротатор</translation>
     </message>
     <message>
         <source>滚轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки ротатора</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим ротатора:</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл.</translation>
     </message>
     <message>
         <source>周长</source>
-        <translation type="unfinished"></translation>
+        <translation>Окружность</translation>
     </message>
     <message>
         <source>直径</source>
-        <translation type="unfinished"></translation>
+        <translation>Диаметр</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ось вращения:</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Окружность (мм):</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Диаметр (мм):</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход на оборот:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
 </context>
 <context>
     <name>HttpThread</name>
     <message>
         <source>参数更改失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить параметр</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Предыдущий файл ещё загружается</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать файл: %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка отменена</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка загрузки: %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала выберите одно растровое изображение!</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation type="unfinished"></translation>
+        <translation>В растре нет контуров для трассировки!</translation>
     </message>
 </context>
 <context>
     <name>JiaoZhun</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Калибровка камеры</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Когда метки выжжены, нажмите «Далее», чтобы сделать фото, затем по очереди щёлкните центры четырёх крестов на нём</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation type="unfinished"></translation>
+        <translation>Далее</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>已选择 %1/%2 个点</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано точек: %1 из %2</translation>
     </message>
 </context>
 <context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать DXF-файл</translation>
     </message>
     <message>
         <source>DXF 坐标超出范围</source>
-        <translation type="unfinished"></translation>
+        <translation>Координаты DXF вне допустимого диапазона</translation>
     </message>
     <message>
         <source>DXF 文件中没有可导入的图形</source>
-        <translation type="unfinished"></translation>
+        <translation>В DXF-файле нет фигур для импорта</translation>
     </message>
 </context>
 <context>
     <name>Jk_gcode</name>
     <message>
         <source>滚轴参数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверные параметры ротатора</translation>
     </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст</translation>
     </message>
     <message>
         <source>文字设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры текста</translation>
     </message>
     <message>
         <source>请输入文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите текст</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation type="unfinished"></translation>
+        <translation>Шрифт:</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер (мм):</translation>
     </message>
     <message>
         <source>粗体</source>
-        <translation type="unfinished"></translation>
+        <translation>Жирный</translation>
     </message>
     <message>
         <source>斜体</source>
-        <translation type="unfinished"></translation>
+        <translation>Курсив</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Интервал букв (мм):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Интервал строк (мм):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>JobPreviewDialog</name>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчётное время:</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Строк G-кода:</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Путь гравировки:</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Холостой ход:</translation>
     </message>
     <message>
         <source>%1 秒</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 с</translation>
     </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Слой</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Вывод</translation>
     </message>
     <message>
         <source>模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Показ</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
     <name>MachineController</name>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключено</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключить</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Пауза</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation type="unfinished"></translation>
+        <translation>Станок выдал сигнал тревоги!</translation>
     </message>
     <message>
         <source>警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Предупреждение</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала подключите станок!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Недоступно во время работы станка!</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест лазера</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-адрес не может быть пустым!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт гравировка, функция временно недоступна!</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл</translation>
     </message>
     <message>
         <source>Files (*.nc);;Files (*.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы (*.nc);;Файлы (*.gcode)</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите или введите последовательный порт!</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть порт %1: %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство на порту %1 не ответило как контроллер GRBL!</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка порта %1 при подключении: %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключено к порту %1</translation>
     </message>
     <message>
         <source>已通过WiFi连接到 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключено по WiFi к %1</translation>
     </message>
     <message>
         <source>WiFi连接已断开</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi-соединение закрыто</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi-соединение потеряно!</translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation type="unfinished"></translation>
+        <translation>COM:</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключить</translation>
     </message>
     <message>
         <source>归位</source>
-        <translation type="unfinished"></translation>
+        <translation>Домой</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation type="unfinished"></translation>
+        <translation>В ноль</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Задать ноль</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить ноль</translation>
     </message>
     <message>
         <source>移动到</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти к</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Пауза</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Стоп</translation>
     </message>
     <message>
         <source>运行文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск файла</translation>
     </message>
     <message>
         <source>走边框</source>
-        <translation type="unfinished"></translation>
+        <translation>Рамка</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест лазера</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
 </context>
 <context>
     <name>MoShiYuLan</name>
     <message>
         <source>模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр режима</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим:</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Чёрно-белый</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Дизеринг</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Контур</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Оттенки серого</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Негатив</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
     <name>MoveDialog</name>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>X (мм):</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (мм):</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ширина (мм):</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Высота (мм):</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Поворот (°):</translation>
     </message>
     <message>
         <source>锁定比例</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранять пропорции</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображение слишком большое для открытия!</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать изображение!</translation>
     </message>
 </context>
 <context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Сделать фото</translation>
     </message>
     <message>
         <source>照片透明度</source>
-        <translation type="unfinished"></translation>
+        <translation>Прозрачность фото</translation>
     </message>
     <message>
         <source>隐藏照片</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыть фото</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт гравировка, функция временно недоступна!</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation type="unfinished"></translation>
+        <translation>Нечего сохранять!</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить файл</translation>
     </message>
     <message>
         <source>Files (*.lumitra)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы (*.lumitra)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл</translation>
     </message>
     <message>
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображения (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить: %1
+%2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл не существует: %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Неподдерживаемый тип файла: %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл нельзя импортировать, в нём нет пригодных фигур: %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл: %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл повреждён или не является файлом проекта: %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл повреждён, открыта только его целая часть: %1</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>最近打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Недавние файлы</translation>
     </message>
     <message>
         <source>(无)</source>
-        <translation type="unfinished"></translation>
+        <translation>(нет)</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить список</translation>
     </message>
 </context>
 <context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы на SD-карте</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Плата:</translation>
     </message>
     <message>
         <source>文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя файла</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Всего:</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Занято:</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Свободно:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Статус:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновить</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>运行</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>选择上传文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл для загрузки</translation>
     </message>
     <message>
         <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы G-кода (*.nc *.gcode *.txt);;Все файлы (*)</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 уже есть на карте. Заменить?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить %1?</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Запустить %1?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать список файлов карты</translation>
     </message>
     <message>
         <source>删除文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось удалить файл</translation>
     </message>
     <message>
         <source>运行文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось запустить файл</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось загрузить файл</translation>
     </message>
 </context>
 <context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
-        <translation type="unfinished"></translation>
+        <translation>Слишком глубокая вложенность в SVG-файле</translation>
     </message>
     <message>
         <source>SVG 文件格式错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка формата SVG-файла</translation>
     </message>
     <message>
         <source>SVG 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG-файл пуст</translation>
     </message>
     <message>
         <source>SVG 文件图形数量过多</source>
-        <translation type="unfinished"></translation>
+        <translation>В SVG-файле слишком много фигур</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG-файл слишком большой</translation>
     </message>
 </context>
 <context>
     <name>TuCeng</name>
     <message>
         <source>线条</source>
-        <translation type="unfinished"></translation>
+        <translation>Линия</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Заливка</translation>
     </message>
     <message>
         <source>交叉填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Перекрёстная заливка</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Чёрно-белый</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Дизеринг</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Контур</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Оттенки серого</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Негатив</translation>
     </message>
     <message>
         <source>负像</source>
-        <translation type="unfinished"></translation>
+        <translation>Негатив</translation>
     </message>
 </context>
 <context>
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>上移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Слой вверх</translation>
     </message>
     <message>
         <source>下移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Слой вниз</translation>
     </message>
 </context>
 <context>
     <name>Tu_Ceng_Zhi</name>
     <message>
         <source>图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры слоя</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя:</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Угол заливки (°):</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Шаг заливки (мм):</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Перебег (мм):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Скорость (мм/мин):</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Мощность (%):</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Проходы</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Вывод</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать</translation>
     </message>
     <message>
         <source>单向</source>
-        <translation type="unfinished"></translation>
+        <translation>В одну сторону</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
 </context>
 <context>
     <name>WIFI_She_Zhi</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки WiFi</translation>
     </message>
     <message>
         <source>设备网络信息</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеть платы</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим:</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя сети:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Статус:</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-адрес:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновить</translation>
     </message>
     <message>
         <source>连接路由器(STA模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключение к роутеру (STA)</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя WiFi:</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль WiFi:</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать пароль</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключить</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Точка доступа платы (AP)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес платы 192.168.0.1</translation>
     </message>
     <message>
         <source>切换到AP模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти в режим AP</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>STA模式(连接路由器)</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим STA (роутер)</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим AP (точка доступа)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя сети и пароль не могут быть пустыми!</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль должен содержать от 8 до 90 символов</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя и пароль не могут содержать !, ?, ~ или $</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
-        <translation type="unfinished"></translation>
+        <translation>Допускаются только латинские буквы, цифры и символы</translation>
     </message>
 </context>
 <context>
     <name>Widget</name>
     <message>
         <source>文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр</translation>
     </message>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить G-код</translation>
     </message>
     <message>
         <source>开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Старт</translation>
     </message>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Ротатор</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Угол поворота:</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
     <message>
         <source>视图</source>
-        <translation type="unfinished"></translation>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation type="unfinished"></translation>
+        <translation>Нечего просматривать!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала подключите станок!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт гравировка, функция временно недоступна!</translation>
     </message>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая страница</translation>
     </message>
     <message>
         <source>图像模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр режима изображения</translation>
     </message>
     <message>
         <source>描摹位图</source>
-        <translation type="unfinished"></translation>
+        <translation>Трассировка растра</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Выход</translation>
     </message>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка</translation>
     </message>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Слои</translation>
     </message>
     <message>
         <source>设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Станок</translation>
     </message>
     <message>
         <source>另存为</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как</translation>
     </message>
     <message>
         <source>未命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Без имени</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект не сохранён. Выйти сейчас?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Инструменты</translation>
     </message>
 </context>
 <context>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала отключите последовательный порт!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-адрес не может быть пустым!</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный порт: %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подключиться по WiFi к %1:%2. Проверьте адрес и питание платы!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала подключите станок!</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>正在上传 %1 (%2 MB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка %1 (%2 МБ)</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка %1: %2 / %3 МБ</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка загрузки: %1</translation>
     </message>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Подключено</translation>
     </message>
 </context>
 <context>
     <name>WifiToolsController</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки WiFi</translation>
     </message>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы на SD-карте</translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск плат</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала подключите станок!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-адрес не может быть пустым!</translation>
     </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
     <message>
         <source>稍后重启</source>
-        <translation type="unfinished"></translation>
+        <translation>Перезапустить позже</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык изменён. Перезапустите программу!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Информация</translation>
     </message>
 </context>
 </TS>

@@ -5,1621 +5,1625 @@
     <name>AlignPanel</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner</translation>
     </message>
     <message>
         <source>左对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner à gauche</translation>
     </message>
     <message>
         <source>水平居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrer horizontalement</translation>
     </message>
     <message>
         <source>右对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner à droite</translation>
     </message>
     <message>
         <source>顶对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner en haut</translation>
     </message>
     <message>
         <source>垂直居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrer verticalement</translation>
     </message>
     <message>
         <source>底对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner en bas</translation>
     </message>
     <message>
         <source>工作区居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrer dans la zone de travail</translation>
     </message>
     <message>
         <source>水平等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Répartir horizontalement</translation>
     </message>
     <message>
         <source>垂直等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Répartir verticalement</translation>
     </message>
 </context>
 <context>
     <name>ArrayDialog</name>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>矩形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau rectangulaire</translation>
     </message>
     <message>
         <source>行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes :</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes :</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement colonnes (mm) :</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement lignes (mm) :</translation>
     </message>
     <message>
         <source>圆形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau circulaire</translation>
     </message>
     <message>
         <source>数量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre :</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Centre X (mm) :</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Centre Y (mm) :</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage d'angle (°) :</translation>
     </message>
     <message>
         <source>旋转副本</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivoter les copies</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrez d'abord la caméra dans les paramètres !</translation>
     </message>
 </context>
 <context>
     <name>CameraController</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrer la caméra</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une photo</translation>
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte ne répond pas. Vérifiez la liaison WiFi !</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponible pendant que la machine fonctionne !</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne fonctionne qu'en WiFi !</translation>
     </message>
     <message>
         <source>取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la photo</translation>
     </message>
     <message>
         <source>继续拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre quand même</translation>
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation type="unfinished"></translation>
+        <translation>La prise de photo en mode rotatif est déconseillée !</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>正在移动激光头...</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacement de la tête laser...</translation>
     </message>
     <message>
         <source>正在获取照片...</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupération de la photo...</translation>
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la récupération de la photo, nouvelle tentative (tentative %1) : %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo annulée</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la photo actuelle ?</translation>
     </message>
     <message>
         <source>照片已获取</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo reçue</translation>
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>La calibration n'est pas valide. Recalibrez la caméra !</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrer la caméra ?</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'enregistrement de la calibration : %1</translation>
     </message>
 </context>
 <context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des cartes</translation>
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes trouvées :</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancer la recherche</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>正在搜索设备...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche des cartes...</translation>
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche terminée !</translation>
     </message>
     <message>
         <source>未找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune carte trouvée</translation>
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d'abord une carte</translation>
     </message>
 </context>
 <context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>修改图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le calque</translation>
     </message>
     <message>
         <source>修改图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les paramètres du calque</translation>
     </message>
     <message>
         <source>移动图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le calque</translation>
     </message>
     <message>
         <source>删除图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le calque</translation>
     </message>
 </context>
 <context>
     <name>DesignPages</name>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle page</translation>
     </message>
     <message>
         <source>页面%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1</translation>
     </message>
     <message>
         <source>重命名页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer la page</translation>
     </message>
     <message>
         <source>页面名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de la page :</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la page supprime toutes ses formes. Continuer ?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
     <name>DxfImport</name>
     <message>
         <source>DXF 图形过于复杂</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin DXF est trop complexe</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir le fichier</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier DXF est trop volumineux</translation>
     </message>
     <message>
         <source>DXF 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier DXF est vide</translation>
     </message>
     <message>
         <source>DXF 文件已损坏</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier DXF est endommagé</translation>
     </message>
 </context>
 <context>
     <name>EditCommand</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner</translation>
     </message>
     <message>
         <source>等间距分布</source>
-        <translation type="unfinished"></translation>
+        <translation>Répartir uniformément</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Grouper</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Dégrouper</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer</translation>
     </message>
     <message>
         <source>修改文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le texte</translation>
     </message>
 </context>
 <context>
     <name>EditController</name>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>剪切</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>复制</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>粘贴</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>再制</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>水平镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir horizontal</translation>
     </message>
     <message>
         <source>垂直镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir vertical</translation>
     </message>
     <message>
         <source>顺时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation 90° horaire</translation>
     </message>
     <message>
         <source>逆时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation 90° antihoraire</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Grouper</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Dégrouper</translation>
     </message>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer...</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner</translation>
     </message>
     <message>
         <source>直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>矩形</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangle</translation>
     </message>
     <message>
         <source>椭圆</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>三角形</source>
-        <translation type="unfinished"></translation>
+        <translation>Triangle</translation>
     </message>
     <message>
         <source>五边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Pentagone</translation>
     </message>
     <message>
         <source>六边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexagone</translation>
     </message>
     <message>
         <source>五角星</source>
-        <translation type="unfinished"></translation>
+        <translation>Étoile</translation>
     </message>
     <message>
         <source>曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Courbe</translation>
     </message>
 </context>
 <context>
     <name>GcodeJobController</name>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le G-code</translation>
     </message>
     <message>
         <source>G代码 (*.nc *.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>G-code (*.nc *.gcode)</translation>
     </message>
     <message>
         <source>保存失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'enregistrement !</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez les paramètres dans la fenêtre Rotatif avant de lancer !</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la génération du G-code !</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque %1 : X %2..%3, Y %4..%5 mm</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>…et %1 de plus</translation>
     </message>
     <message>
         <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
 %4
 
 是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 forme(s) hors de la zone de travail (%2 × %3 mm) ; la machine risque de heurter ses butées ou de brûler hors du plateau :
+%4
+
+Continuer ?</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer</translation>
     </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotatif</translation>
     </message>
     <message>
         <source>滚轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du rotatif</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode rotatif :</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>周长</source>
-        <translation type="unfinished"></translation>
+        <translation>Circonférence</translation>
     </message>
     <message>
         <source>直径</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation type="unfinished"></translation>
+        <translation>Axe de rotation :</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Circonférence (mm) :</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre (mm) :</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Course par tour :</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>HttpThread</name>
     <message>
         <source>参数更改失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la modification du paramètre</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier précédent est encore en cours d'envoi</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier : %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi annulé</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'envoi : %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d'abord une image bitmap !</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'image bitmap n'a aucun contour à vectoriser !</translation>
     </message>
 </context>
 <context>
     <name>JiaoZhun</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrer la caméra</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fois les repères gravés, cliquez sur « Suivant » pour prendre une photo, puis cliquez dans l'ordre sur le centre des quatre croix</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>已选择 %1/%2 个点</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 points sur %2 choisis</translation>
     </message>
 </context>
 <context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir le fichier</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier DXF</translation>
     </message>
     <message>
         <source>DXF 坐标超出范围</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordonnées DXF hors limites</translation>
     </message>
     <message>
         <source>DXF 文件中没有可导入的图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier DXF ne contient aucune forme à importer</translation>
     </message>
 </context>
 <context>
     <name>Jk_gcode</name>
     <message>
         <source>滚轴参数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du rotatif non valides</translation>
     </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>文字设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du texte</translation>
     </message>
     <message>
         <source>请输入文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le texte</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation type="unfinished"></translation>
+        <translation>Police :</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille (mm) :</translation>
     </message>
     <message>
         <source>粗体</source>
-        <translation type="unfinished"></translation>
+        <translation>Gras</translation>
     </message>
     <message>
         <source>斜体</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement lettres (mm) :</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Interligne (mm) :</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>JobPreviewDialog</name>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée estimée :</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes de G-code :</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur gravée :</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacements à vide :</translation>
     </message>
     <message>
         <source>%1 秒</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
     <name>MachineController</name>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine a déclenché une alarme !</translation>
     </message>
     <message>
         <source>警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez d'abord la machine !</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponible pendant que la machine fonctionne !</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Tir test</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'adresse IP ne peut pas être vide !</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier</translation>
     </message>
     <message>
         <source>Files (*.nc);;Files (*.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers (*.nc);;Fichiers (*.gcode)</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ou saisissez un port série !</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir le port série %1 : %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'appareil sur le port série %1 n'a pas répondu comme un contrôleur GRBL !</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur du port série %1 lors de la connexion : %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté au port série %1</translation>
     </message>
     <message>
         <source>已通过WiFi连接到 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté en WiFi à %1</translation>
     </message>
     <message>
         <source>WiFi连接已断开</source>
-        <translation type="unfinished"></translation>
+        <translation>Liaison WiFi fermée</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation type="unfinished"></translation>
+        <translation>Liaison WiFi perdue !</translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation type="unfinished"></translation>
+        <translation>COM :</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>归位</source>
-        <translation type="unfinished"></translation>
+        <translation>Homing</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à l'origine</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir l'origine</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer l'origine</translation>
     </message>
     <message>
         <source>移动到</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt</translation>
     </message>
     <message>
         <source>运行文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le fichier</translation>
     </message>
     <message>
         <source>走边框</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadrage</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Tir test</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
     <name>MoShiYuLan</name>
     <message>
         <source>模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu du mode</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode :</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir et blanc</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramage</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveaux de gris</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Négatif</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>MoveDialog</name>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>X (mm) :</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (mm) :</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur (mm) :</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur (mm) :</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation (°) :</translation>
     </message>
     <message>
         <source>锁定比例</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les proportions</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'image est trop grande pour être ouverte !</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire l'image !</translation>
     </message>
 </context>
 <context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une photo</translation>
     </message>
     <message>
         <source>照片透明度</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité de la photo</translation>
     </message>
     <message>
         <source>隐藏照片</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer la photo</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à enregistrer !</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>Files (*.lumitra)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers (*.lumitra)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier</translation>
     </message>
     <message>
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'enregistrement : %1
+%2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n'existe pas : %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de fichier non pris en charge : %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'importer le fichier ; il ne contient aucune forme utilisable : %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir le fichier : %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé ou n'est pas un fichier de projet et ne peut pas être ouvert : %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé ; seule sa partie intacte a été ouverte : %1</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>最近打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers récents</translation>
     </message>
     <message>
         <source>(无)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucun)</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la liste</translation>
     </message>
 </context>
 <context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de la carte SD</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte :</translation>
     </message>
     <message>
         <source>文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Total :</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé :</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Libre :</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>État :</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>运行</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>选择上传文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier à envoyer</translation>
     </message>
     <message>
         <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers G-code (*.nc *.gcode *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est déjà sur la carte. Le remplacer ?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer %1 ?</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer %1 ?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la lecture de la liste des fichiers de la carte</translation>
     </message>
     <message>
         <source>删除文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la suppression du fichier</translation>
     </message>
     <message>
         <source>运行文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du lancement du fichier</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'envoi du fichier</translation>
     </message>
 </context>
 <context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier SVG est trop imbriqué</translation>
     </message>
     <message>
         <source>SVG 文件格式错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier SVG est mal formé</translation>
     </message>
     <message>
         <source>SVG 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier SVG est vide</translation>
     </message>
     <message>
         <source>SVG 文件图形数量过多</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier SVG contient trop de formes</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir le fichier</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier SVG est trop volumineux</translation>
     </message>
 </context>
 <context>
     <name>TuCeng</name>
     <message>
         <source>线条</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissage</translation>
     </message>
     <message>
         <source>交叉填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissage croisé</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir et blanc</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramage</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveaux de gris</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Négatif</translation>
     </message>
     <message>
         <source>负像</source>
-        <translation type="unfinished"></translation>
+        <translation>Négatif</translation>
     </message>
 </context>
 <context>
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>上移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter le calque</translation>
     </message>
     <message>
         <source>下移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre le calque</translation>
     </message>
 </context>
 <context>
     <name>Tu_Ceng_Zhi</name>
     <message>
         <source>图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du calque</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode :</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle de remplissage (°) :</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de remplissage (mm) :</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Overscan (mm) :</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse (mm/min) :</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance (%) :</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Passes</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>单向</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidirectionnel</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>WIFI_She_Zhi</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres WiFi</translation>
     </message>
     <message>
         <source>设备网络信息</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau de la carte</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode :</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du réseau :</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>État :</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse IP :</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>连接路由器(STA模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejoindre un routeur (mode STA)</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du WiFi :</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe WiFi :</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le mot de passe</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Point d'accès de la carte (mode AP)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse de la carte 192.168.0.1</translation>
     </message>
     <message>
         <source>切换到AP模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en mode AP</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>STA模式(连接路由器)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode STA (routeur)</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode AP (point d'accès)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du réseau et le mot de passe ne peuvent pas être vides !</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit comporter de 8 à 90 caractères</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom et le mot de passe ne peuvent pas contenir !, ?, ~ ou $</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls les caractères anglais, les chiffres et les symboles sont pris en charge</translation>
     </message>
 </context>
 <context>
     <name>Widget</name>
     <message>
         <source>文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le G-code</translation>
     </message>
     <message>
         <source>开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer</translation>
     </message>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotatif</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle de rotation :</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>视图</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à prévisualiser !</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez d'abord la machine !</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
     </message>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle page</translation>
     </message>
     <message>
         <source>图像模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu du mode image</translation>
     </message>
     <message>
         <source>描摹位图</source>
-        <translation type="unfinished"></translation>
+        <translation>Vectoriser le bitmap</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Calques</translation>
     </message>
     <message>
         <source>设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Machine</translation>
     </message>
     <message>
         <source>另存为</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>未命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans titre</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet n'est pas enregistré. Quitter maintenant ?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
 </context>
 <context>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnectez d'abord le port série !</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'adresse IP ne peut pas être vide !</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Port non valide : %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter en WiFi à %1:%2. Vérifiez l'adresse et l'alimentation de la carte !</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez d'abord la machine !</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>正在上传 %1 (%2 MB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi de %1 (%2 Mo)</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi de %1 : %2 / %3 Mo</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'envoi : %1</translation>
     </message>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
 </context>
 <context>
     <name>WifiToolsController</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres WiFi</translation>
     </message>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de la carte SD</translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des cartes</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez d'abord la machine !</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>L'adresse IP ne peut pas être vide !</translation>
     </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
     <message>
         <source>稍后重启</source>
-        <translation type="unfinished"></translation>
+        <translation>Redémarrer plus tard</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue modifiée. Veuillez redémarrer l'application !</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
 </context>
 </TS>

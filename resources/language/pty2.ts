@@ -5,1621 +5,1625 @@
     <name>AlignPanel</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar</translation>
     </message>
     <message>
         <source>左对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar à esquerda</translation>
     </message>
     <message>
         <source>水平居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centralizar horizontalmente</translation>
     </message>
     <message>
         <source>右对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar à direita</translation>
     </message>
     <message>
         <source>顶对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar ao topo</translation>
     </message>
     <message>
         <source>垂直居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centralizar verticalmente</translation>
     </message>
     <message>
         <source>底对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar à base</translation>
     </message>
     <message>
         <source>工作区居中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centralizar na área de trabalho</translation>
     </message>
     <message>
         <source>水平等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuir horizontalmente</translation>
     </message>
     <message>
         <source>垂直等距</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuir verticalmente</translation>
     </message>
 </context>
 <context>
     <name>ArrayDialog</name>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz</translation>
     </message>
     <message>
         <source>矩形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz retangular</translation>
     </message>
     <message>
         <source>行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas:</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Colunas:</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço entre colunas (mm):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço entre linhas (mm):</translation>
     </message>
     <message>
         <source>圆形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz circular</translation>
     </message>
     <message>
         <source>数量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantidade:</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro X (mm):</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro Y (mm):</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Faixa de ângulo (°):</translation>
     </message>
     <message>
         <source>旋转副本</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar cópias</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibre primeiro a câmera nas configurações!</translation>
     </message>
 </context>
 <context>
     <name>CameraController</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrar câmera</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirar foto</translation>
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não responde. Verifique a conexão WiFi!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponível com a máquina em funcionamento!</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation type="unfinished"></translation>
+        <translation>A câmera só funciona via WiFi!</translation>
     </message>
     <message>
         <source>取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar foto</translation>
     </message>
     <message>
         <source>继续拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirar mesmo assim</translation>
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é recomendado tirar fotos no modo rotativo!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>正在移动激光头...</source>
-        <translation type="unfinished"></translation>
+        <translation>Movendo o cabeçote laser...</translation>
     </message>
     <message>
         <source>正在获取照片...</source>
-        <translation type="unfinished"></translation>
+        <translation>Obtendo a foto...</translation>
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao obter a foto, tentando novamente (tentativa %1): %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto cancelada</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar a foto atual?</translation>
     </message>
     <message>
         <source>照片已获取</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto recebida</translation>
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>A calibração não é válida. Calibre a câmera novamente!</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrar a câmera?</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>A máquina está gravando; indisponível no momento!</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao salvar a calibração: %1</translation>
     </message>
 </context>
 <context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar placas</translation>
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Placas encontradas:</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar novamente</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>正在搜索设备...</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurando placas...</translation>
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca concluída!</translation>
     </message>
     <message>
         <source>未找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma placa encontrada</translation>
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma placa primeiro</translation>
     </message>
 </context>
 <context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>修改图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterar camada</translation>
     </message>
     <message>
         <source>修改图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterar parâmetros da camada</translation>
     </message>
     <message>
         <source>移动图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover camada</translation>
     </message>
     <message>
         <source>删除图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir camada</translation>
     </message>
 </context>
 <context>
     <name>DesignPages</name>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova página</translation>
     </message>
     <message>
         <source>页面%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1</translation>
     </message>
     <message>
         <source>重命名页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomear página</translation>
     </message>
     <message>
         <source>页面名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome da página:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar a página exclui todas as suas formas. Continuar?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
 </context>
 <context>
     <name>DxfImport</name>
     <message>
         <source>DXF 图形过于复杂</source>
-        <translation type="unfinished"></translation>
+        <translation>O desenho DXF é complexo demais</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o arquivo</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo DXF é grande demais</translation>
     </message>
     <message>
         <source>DXF 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo DXF está vazio</translation>
     </message>
     <message>
         <source>DXF 文件已损坏</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo DXF está danificado</translation>
     </message>
 </context>
 <context>
     <name>EditCommand</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar</translation>
     </message>
     <message>
         <source>等间距分布</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuir uniformemente</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrupar</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Desagrupar</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover</translation>
     </message>
     <message>
         <source>修改文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar texto</translation>
     </message>
 </context>
 <context>
     <name>EditController</name>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfazer</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Refazer</translation>
     </message>
     <message>
         <source>剪切</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar</translation>
     </message>
     <message>
         <source>复制</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>粘贴</source>
-        <translation type="unfinished"></translation>
+        <translation>Colar</translation>
     </message>
     <message>
         <source>再制</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicar</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
     <message>
         <source>水平镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Espelhar horizontalmente</translation>
     </message>
     <message>
         <source>垂直镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Espelhar verticalmente</translation>
     </message>
     <message>
         <source>顺时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar 90° no sentido horário</translation>
     </message>
     <message>
         <source>逆时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar 90° no sentido anti-horário</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrupar</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>Desagrupar</translation>
     </message>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover...</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar</translation>
     </message>
     <message>
         <source>直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Linha</translation>
     </message>
     <message>
         <source>矩形</source>
-        <translation type="unfinished"></translation>
+        <translation>Retângulo</translation>
     </message>
     <message>
         <source>椭圆</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipse</translation>
     </message>
     <message>
         <source>三角形</source>
-        <translation type="unfinished"></translation>
+        <translation>Triângulo</translation>
     </message>
     <message>
         <source>五边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Pentágono</translation>
     </message>
     <message>
         <source>六边形</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexágono</translation>
     </message>
     <message>
         <source>五角星</source>
-        <translation type="unfinished"></translation>
+        <translation>Estrela</translation>
     </message>
     <message>
         <source>曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Curva</translation>
     </message>
 </context>
 <context>
     <name>GcodeJobController</name>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar G-code</translation>
     </message>
     <message>
         <source>G代码 (*.nc *.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>G-code (*.nc *.gcode)</translation>
     </message>
     <message>
         <source>保存失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao salvar!</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifique os parâmetros na janela Rotativo antes de executar!</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao gerar o G-code!</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Camada %1: X %2..%3, Y %4..%5 mm</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>…e mais %1</translation>
     </message>
     <message>
         <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
 %4
 
 是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 forma(s) fora da área de trabalho (%2 × %3 mm); a máquina pode bater nos limites ou queimar fora da mesa:
+%4
+
+Continuar?</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotativo</translation>
     </message>
     <message>
         <source>滚轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações do rotativo</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo rotativo:</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Desligado</translation>
     </message>
     <message>
         <source>周长</source>
-        <translation type="unfinished"></translation>
+        <translation>Circunferência</translation>
     </message>
     <message>
         <source>直径</source>
-        <translation type="unfinished"></translation>
+        <translation>Diâmetro</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation type="unfinished"></translation>
+        <translation>Eixo de rotação:</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Circunferência (mm):</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Diâmetro (mm):</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocamento por volta:</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>HttpThread</name>
     <message>
         <source>参数更改失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao alterar o parâmetro</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo anterior ainda está sendo enviado</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o arquivo: %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Envio cancelado</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha no envio: %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione primeiro um bitmap!</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation type="unfinished"></translation>
+        <translation>O bitmap não tem contornos para vetorizar!</translation>
     </message>
 </context>
 <context>
     <name>JiaoZhun</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrar câmera</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Após gravar as marcas, clique em "Próximo" para tirar uma foto e depois clique no centro das quatro cruzes</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation type="unfinished"></translation>
+        <translation>Próximo</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>已选择 %1/%2 个点</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 pontos escolhidos</translation>
     </message>
 </context>
 <context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o arquivo</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o arquivo DXF</translation>
     </message>
     <message>
         <source>DXF 坐标超出范围</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordenadas DXF fora do intervalo</translation>
     </message>
     <message>
         <source>DXF 文件中没有可导入的图形</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo DXF não contém formas para importar</translation>
     </message>
 </context>
 <context>
     <name>Jk_gcode</name>
     <message>
         <source>滚轴参数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Parâmetros do rotativo inválidos</translation>
     </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>文字设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações de texto</translation>
     </message>
     <message>
         <source>请输入文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o texto</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte:</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamanho (mm):</translation>
     </message>
     <message>
         <source>粗体</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrito</translation>
     </message>
     <message>
         <source>斜体</source>
-        <translation type="unfinished"></translation>
+        <translation>Itálico</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço entre letras (mm):</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço entre linhas (mm):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>JobPreviewDialog</name>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualizar</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo estimado:</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas de G-code:</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimento de gravação:</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimento de deslocamento:</translation>
     </message>
     <message>
         <source>%1 秒</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Camada</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Saída</translation>
     </message>
     <message>
         <source>模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Exibir</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
 </context>
 <context>
     <name>MachineController</name>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation type="unfinished"></translation>
+        <translation>A máquina disparou um alarme!</translation>
     </message>
     <message>
         <source>警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Atenção</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte a máquina primeiro!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponível com a máquina em funcionamento!</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomar</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Disparo de teste</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>O endereço IP não pode ficar vazio!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>A máquina está gravando; indisponível no momento!</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir arquivo</translation>
     </message>
     <message>
         <source>Files (*.nc);;Files (*.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos (*.nc);;Arquivos (*.gcode)</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha ou digite uma porta serial!</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir a porta serial %1: %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation type="unfinished"></translation>
+        <translation>O dispositivo na porta serial %1 não respondeu como controlador GRBL!</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro na porta serial %1 ao conectar: %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado à porta serial %1</translation>
     </message>
     <message>
         <source>已通过WiFi连接到 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado via WiFi a %1</translation>
     </message>
     <message>
         <source>WiFi连接已断开</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexão WiFi encerrada</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation type="unfinished"></translation>
+        <translation>A conexão WiFi foi perdida!</translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation type="unfinished"></translation>
+        <translation>COM:</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>归位</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir à origem</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir origem</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar origem</translation>
     </message>
     <message>
         <source>移动到</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover para</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar</translation>
     </message>
     <message>
         <source>运行文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Executar arquivo</translation>
     </message>
     <message>
         <source>走边框</source>
-        <translation type="unfinished"></translation>
+        <translation>Enquadrar</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>Disparo de teste</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
 </context>
 <context>
     <name>MoShiYuLan</name>
     <message>
         <source>模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualização do modo</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo:</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Preto e branco</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Pontilhado</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de cinza</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativo</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
     <name>MoveDialog</name>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>X (mm):</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (mm):</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Largura (mm):</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura (mm):</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotação (°):</translation>
     </message>
     <message>
         <source>锁定比例</source>
-        <translation type="unfinished"></translation>
+        <translation>Manter proporção</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation type="unfinished"></translation>
+        <translation>A imagem é grande demais para abrir!</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler a imagem!</translation>
     </message>
 </context>
 <context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirar foto</translation>
     </message>
     <message>
         <source>照片透明度</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidade da foto</translation>
     </message>
     <message>
         <source>隐藏照片</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar foto</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>A máquina está gravando; indisponível no momento!</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há nada para salvar!</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar arquivo</translation>
     </message>
     <message>
         <source>Files (*.lumitra)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos (*.lumitra)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir arquivo</translation>
     </message>
     <message>
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagens (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao salvar: %1
+%2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo não existe: %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de arquivo não suportado: %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível importar o arquivo; ele não contém formas utilizáveis: %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o arquivo: %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo está danificado ou não é um arquivo de projeto e não pode ser aberto: %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo está danificado; só a parte intacta foi aberta: %1</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>最近打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir recente</translation>
     </message>
     <message>
         <source>(无)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nenhum)</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar lista</translation>
     </message>
 </context>
 <context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos do cartão SD</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>Placa:</translation>
     </message>
     <message>
         <source>文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do arquivo</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamanho</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation type="unfinished"></translation>
+        <translation>Total:</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado:</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation type="unfinished"></translation>
+        <translation>Livre:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>运行</source>
-        <translation type="unfinished"></translation>
+        <translation>Executar</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>选择上传文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um arquivo para enviar</translation>
     </message>
     <message>
         <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos G-code (*.nc *.gcode *.txt);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 já está no cartão. Substituir?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir %1?</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>Executar %1?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao ler a lista de arquivos do cartão</translation>
     </message>
     <message>
         <source>删除文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao excluir o arquivo</translation>
     </message>
     <message>
         <source>运行文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao executar o arquivo</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao enviar o arquivo</translation>
     </message>
 </context>
 <context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo SVG tem aninhamento profundo demais</translation>
     </message>
     <message>
         <source>SVG 文件格式错误</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo SVG está malformado</translation>
     </message>
     <message>
         <source>SVG 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo SVG está vazio</translation>
     </message>
     <message>
         <source>SVG 文件图形数量过多</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo SVG tem formas demais</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o arquivo</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo SVG é grande demais</translation>
     </message>
 </context>
 <context>
     <name>TuCeng</name>
     <message>
         <source>线条</source>
-        <translation type="unfinished"></translation>
+        <translation>Linha</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Preenchimento</translation>
     </message>
     <message>
         <source>交叉填充</source>
-        <translation type="unfinished"></translation>
+        <translation>Preenchimento cruzado</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>Preto e branco</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>Pontilhado</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de cinza</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativo</translation>
     </message>
     <message>
         <source>负像</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativo</translation>
     </message>
 </context>
 <context>
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>上移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir camada</translation>
     </message>
     <message>
         <source>下移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Descer camada</translation>
     </message>
 </context>
 <context>
     <name>Tu_Ceng_Zhi</name>
     <message>
         <source>图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>Parâmetros da camada</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ângulo de preench. (°):</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo de preench. (mm):</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrevarredura (mm):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade (mm/min):</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Potência (%):</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Passadas</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>Saída</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Exibir</translation>
     </message>
     <message>
         <source>单向</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidirecional</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>WIFI_She_Zhi</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações WiFi</translation>
     </message>
     <message>
         <source>设备网络信息</source>
-        <translation type="unfinished"></translation>
+        <translation>Rede da placa</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo:</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome da rede:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation type="unfinished"></translation>
+        <translation>Endereço IP:</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar</translation>
     </message>
     <message>
         <source>连接路由器(STA模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar a um roteador (modo estação)</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do WiFi:</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha do WiFi:</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar senha</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponto de acesso da placa (modo AP)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Endereço da placa 192.168.0.1</translation>
     </message>
     <message>
         <source>切换到AP模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar para modo ponto de acesso</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>STA模式(连接路由器)</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo estação (roteador)</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo ponto de acesso (AP)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>O nome da rede e a senha não podem ficar vazios!</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
-        <translation type="unfinished"></translation>
+        <translation>A senha deve ter de 8 a 90 caracteres</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation type="unfinished"></translation>
+        <translation>O nome e a senha não podem conter !, ?, ~ ou $</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
-        <translation type="unfinished"></translation>
+        <translation>Somente letras sem acento, números e símbolos são aceitos</translation>
     </message>
 </context>
 <context>
     <name>Widget</name>
     <message>
         <source>文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualizar</translation>
     </message>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar G-code</translation>
     </message>
     <message>
         <source>开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar</translation>
     </message>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotativo</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ângulo de rotação:</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>视图</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualização</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há nada para pré-visualizar!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte a máquina primeiro!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>A máquina está gravando; indisponível no momento!</translation>
     </message>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova página</translation>
     </message>
     <message>
         <source>图像模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualização do modo de imagem</translation>
     </message>
     <message>
         <source>描摹位图</source>
-        <translation type="unfinished"></translation>
+        <translation>Vetorizar bitmap</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair</translation>
     </message>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Camadas</translation>
     </message>
     <message>
         <source>设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Máquina</translation>
     </message>
     <message>
         <source>另存为</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar como</translation>
     </message>
     <message>
         <source>未命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem título</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>O projeto não foi salvo. Sair agora?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferramentas</translation>
     </message>
 </context>
 <context>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconecte a porta serial primeiro!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>O endereço IP não pode ficar vazio!</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta inválida: %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível conectar via WiFi a %1:%2. Verifique o endereço e se a placa está ligada!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte a máquina primeiro!</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>正在上传 %1 (%2 MB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando %1 (%2 MB)</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando %1: %2 / %3 MB</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha no envio: %1</translation>
     </message>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado</translation>
     </message>
 </context>
 <context>
     <name>WifiToolsController</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações WiFi</translation>
     </message>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos do cartão SD</translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar placas</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte a máquina primeiro!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>O endereço IP não pode ficar vazio!</translation>
     </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
     <message>
         <source>稍后重启</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar depois</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma alterado. Reinicie o aplicativo!</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
 </context>
 </TS>

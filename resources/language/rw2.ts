@@ -5,1621 +5,1625 @@
     <name>AlignPanel</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>整列</translation>
     </message>
     <message>
         <source>左对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>左揃え</translation>
     </message>
     <message>
         <source>水平居中</source>
-        <translation type="unfinished"></translation>
+        <translation>左右中央揃え</translation>
     </message>
     <message>
         <source>右对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>右揃え</translation>
     </message>
     <message>
         <source>顶对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>上揃え</translation>
     </message>
     <message>
         <source>垂直居中</source>
-        <translation type="unfinished"></translation>
+        <translation>上下中央揃え</translation>
     </message>
     <message>
         <source>底对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>下揃え</translation>
     </message>
     <message>
         <source>工作区居中</source>
-        <translation type="unfinished"></translation>
+        <translation>作業エリアの中央</translation>
     </message>
     <message>
         <source>水平等距</source>
-        <translation type="unfinished"></translation>
+        <translation>水平方向に等間隔</translation>
     </message>
     <message>
         <source>垂直等距</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直方向に等間隔</translation>
     </message>
 </context>
 <context>
     <name>ArrayDialog</name>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>配列</translation>
     </message>
     <message>
         <source>矩形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>矩形配列</translation>
     </message>
     <message>
         <source>行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>行数：</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation type="unfinished"></translation>
+        <translation>列数：</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>列間隔 (mm)：</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>行間隔 (mm)：</translation>
     </message>
     <message>
         <source>圆形阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>円形配列</translation>
     </message>
     <message>
         <source>数量：</source>
-        <translation type="unfinished"></translation>
+        <translation>個数：</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>中心 X (mm)：</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>中心 Y (mm)：</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>角度範囲 (°)：</translation>
     </message>
     <message>
         <source>旋转副本</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーを回転</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>先に設定画面でカメラを校正してください。</translation>
     </message>
 </context>
 <context>
     <name>CameraController</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ校正</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影</translation>
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードが応答しません。WiFi接続を確認してください。</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンの動作中は使用できません。</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラはWiFi接続時のみ使用できます。</translation>
     </message>
     <message>
         <source>取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影をキャンセル</translation>
     </message>
     <message>
         <source>继续拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>このまま撮影</translation>
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリーモードでの撮影はおすすめしません。</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>正在移动激光头...</source>
-        <translation type="unfinished"></translation>
+        <translation>レーザーヘッドを移動中...</translation>
     </message>
     <message>
         <source>正在获取照片...</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を取得中...</translation>
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>写真の取得に失敗しました。再試行中（%1 回目）: %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影をキャンセルしました</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の写真を閉じますか？</translation>
     </message>
     <message>
         <source>照片已获取</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を取得しました</translation>
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation type="unfinished"></translation>
+        <translation>校正データが無効です。カメラを再校正してください。</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを校正しますか？</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>加工中のため、現在は使用できません。</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>校正データの保存に失敗しました: %1</translation>
     </message>
 </context>
 <context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードを検索</translation>
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかったボード：</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>再検索</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>正在搜索设备...</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードを検索中...</translation>
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation type="unfinished"></translation>
+        <translation>検索が完了しました。</translation>
     </message>
     <message>
         <source>未找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードが見つかりません</translation>
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation type="unfinished"></translation>
+        <translation>先にボードを選択してください</translation>
     </message>
 </context>
 <context>
     <name>DesignCommand</name>
     <message>
         <source>添加</source>
-        <translation type="unfinished"></translation>
+        <translation>追加</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>修改图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーの変更</translation>
     </message>
     <message>
         <source>修改图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー設定の変更</translation>
     </message>
     <message>
         <source>移动图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーの移動</translation>
     </message>
     <message>
         <source>删除图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーの削除</translation>
     </message>
 </context>
 <context>
     <name>DesignPages</name>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>新規ページ</translation>
     </message>
     <message>
         <source>页面%1</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1</translation>
     </message>
     <message>
         <source>重命名页面</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ名の変更</translation>
     </message>
     <message>
         <source>页面名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ名：</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを閉じると、その中の図形がすべて削除されます。続行しますか？</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
 </context>
 <context>
     <name>DxfImport</name>
     <message>
         <source>DXF 图形过于复杂</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF図面が複雑すぎます</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けません</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFファイルが大きすぎます</translation>
     </message>
     <message>
         <source>DXF 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFファイルが空です</translation>
     </message>
     <message>
         <source>DXF 文件已损坏</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFファイルが破損しています</translation>
     </message>
 </context>
 <context>
     <name>EditCommand</name>
     <message>
         <source>对齐</source>
-        <translation type="unfinished"></translation>
+        <translation>整列</translation>
     </message>
     <message>
         <source>等间距分布</source>
-        <translation type="unfinished"></translation>
+        <translation>等間隔に配置</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>配列</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ化</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ解除</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>移動</translation>
     </message>
     <message>
         <source>修改文字</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストの編集</translation>
     </message>
 </context>
 <context>
     <name>EditController</name>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直し</translation>
     </message>
     <message>
         <source>剪切</source>
-        <translation type="unfinished"></translation>
+        <translation>切り取り</translation>
     </message>
     <message>
         <source>复制</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>粘贴</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付け</translation>
     </message>
     <message>
         <source>再制</source>
-        <translation type="unfinished"></translation>
+        <translation>複製</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択</translation>
     </message>
     <message>
         <source>水平镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>左右反転</translation>
     </message>
     <message>
         <source>垂直镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>上下反転</translation>
     </message>
     <message>
         <source>顺时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>時計回りに90°回転</translation>
     </message>
     <message>
         <source>逆时针旋转90°</source>
-        <translation type="unfinished"></translation>
+        <translation>反時計回りに90°回転</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ化</translation>
     </message>
     <message>
         <source>打散</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ解除</translation>
     </message>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>移動...</translation>
     </message>
     <message>
         <source>阵列</source>
-        <translation type="unfinished"></translation>
+        <translation>配列</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished"></translation>
+        <translation>選択</translation>
     </message>
     <message>
         <source>直线</source>
-        <translation type="unfinished"></translation>
+        <translation>直線</translation>
     </message>
     <message>
         <source>矩形</source>
-        <translation type="unfinished"></translation>
+        <translation>長方形</translation>
     </message>
     <message>
         <source>椭圆</source>
-        <translation type="unfinished"></translation>
+        <translation>楕円</translation>
     </message>
     <message>
         <source>三角形</source>
-        <translation type="unfinished"></translation>
+        <translation>三角形</translation>
     </message>
     <message>
         <source>五边形</source>
-        <translation type="unfinished"></translation>
+        <translation>五角形</translation>
     </message>
     <message>
         <source>六边形</source>
-        <translation type="unfinished"></translation>
+        <translation>六角形</translation>
     </message>
     <message>
         <source>五角星</source>
-        <translation type="unfinished"></translation>
+        <translation>星形</translation>
     </message>
     <message>
         <source>曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>曲線</translation>
     </message>
 </context>
 <context>
     <name>GcodeJobController</name>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコードを保存</translation>
     </message>
     <message>
         <source>G代码 (*.nc *.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコード (*.nc *.gcode)</translation>
     </message>
     <message>
         <source>保存失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>保存に失敗しました。</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>実行前にロータリー画面で設定を確認してください。</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコードの生成に失敗しました。</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー %1: X %2..%3, Y %4..%5 mm</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>…他 %1 件</translation>
     </message>
     <message>
         <source>%1 个图形超出工作区域 (%2 × %3 mm),机器可能撞到限位或烧到台面以外:
 %4
 
 是否继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個の図形が作業エリア (%2 × %3 mm) の外にあります。マシンがリミットに当たったり、作業台の外を焼いたりするおそれがあります:
+%4
+
+続行しますか？</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>続行</translation>
     </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリー</translation>
     </message>
     <message>
         <source>滚轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリー設定</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリーモード：</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>周长</source>
-        <translation type="unfinished"></translation>
+        <translation>円周</translation>
     </message>
     <message>
         <source>直径</source>
-        <translation type="unfinished"></translation>
+        <translation>直径</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation type="unfinished"></translation>
+        <translation>回転軸：</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>円周 (mm)：</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>直径 (mm)：</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>1回転あたりの移動量：</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>HttpThread</name>
     <message>
         <source>参数更改失败</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の変更に失敗しました</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation type="unfinished"></translation>
+        <translation>前のファイルをまだアップロード中です</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを読み込めません: %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロードをキャンセルしました</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロードに失敗しました: %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にビットマップを1つ選択してください。</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation type="unfinished"></translation>
+        <translation>ビットマップにトレースできる輪郭がありません。</translation>
     </message>
 </context>
 <context>
     <name>JiaoZhun</name>
     <message>
         <source>校准摄像头</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ校正</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation type="unfinished"></translation>
+        <translation>刻印が終わったら「次へ」を押して撮影し、写真上の4つの十字の中心を順にクリックしてください</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation type="unfinished"></translation>
+        <translation>次へ</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>已选择 %1/%2 个点</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2 点を選択済み</translation>
     </message>
 </context>
 <context>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けません</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFファイルを読み込めません</translation>
     </message>
     <message>
         <source>DXF 坐标超出范围</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFの座標が範囲外です</translation>
     </message>
     <message>
         <source>DXF 文件中没有可导入的图形</source>
-        <translation type="unfinished"></translation>
+        <translation>DXFファイルにインポートできる図形がありません</translation>
     </message>
 </context>
 <context>
     <name>Jk_gcode</name>
     <message>
         <source>滚轴参数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリー設定が無効です</translation>
     </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
     <message>
         <source>文字</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>文字设置</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト設定</translation>
     </message>
     <message>
         <source>请输入文字</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストを入力</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation type="unfinished"></translation>
+        <translation>フォント：</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ (mm)：</translation>
     </message>
     <message>
         <source>粗体</source>
-        <translation type="unfinished"></translation>
+        <translation>太字</translation>
     </message>
     <message>
         <source>斜体</source>
-        <translation type="unfinished"></translation>
+        <translation>斜体</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>文字間隔 (mm)：</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>行間隔 (mm)：</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>JobPreviewDialog</name>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation type="unfinished"></translation>
+        <translation>予想時間：</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコード行数：</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>加工距離：</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation type="unfinished"></translation>
+        <translation>空走距離：</translation>
     </message>
     <message>
         <source>%1 秒</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>出力</translation>
     </message>
     <message>
         <source>模式</source>
-        <translation type="unfinished"></translation>
+        <translation>モード</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
     <name>MachineController</name>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>一時停止</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンでアラームが発生しました。</translation>
     </message>
     <message>
         <source>警告</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にマシンを接続してください。</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンの動作中は使用できません。</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>再開</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>テスト照射</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IPアドレスを入力してください。</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>加工中のため、現在は使用できません。</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開く</translation>
     </message>
     <message>
         <source>Files (*.nc);;Files (*.gcode)</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル (*.nc);;ファイル (*.gcode)</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートを選択または入力してください。</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート %1 を開けません: %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート %1 のデバイスがGRBLコントローラーとして応答しませんでした。</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート %1 の接続中にエラーが発生しました: %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート %1 に接続しました</translation>
     </message>
     <message>
         <source>已通过WiFi连接到 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFiで %1 に接続しました</translation>
     </message>
     <message>
         <source>WiFi连接已断开</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi接続を切断しました</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi接続が切れました。</translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation type="unfinished"></translation>
+        <translation>COM:</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>归位</source>
-        <translation type="unfinished"></translation>
+        <translation>ホーミング</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation type="unfinished"></translation>
+        <translation>原点へ移動</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation type="unfinished"></translation>
+        <translation>原点を設定</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation type="unfinished"></translation>
+        <translation>原点をクリア</translation>
     </message>
     <message>
         <source>移动到</source>
-        <translation type="unfinished"></translation>
+        <translation>指定位置へ</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>一時停止</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>运行文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル実行</translation>
     </message>
     <message>
         <source>走边框</source>
-        <translation type="unfinished"></translation>
+        <translation>フレーム</translation>
     </message>
     <message>
         <source>点火</source>
-        <translation type="unfinished"></translation>
+        <translation>テスト照射</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
 </context>
 <context>
     <name>MoShiYuLan</name>
     <message>
         <source>模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>モードプレビュー</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>モード：</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>白黒</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>ディザ</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>輪郭</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>ネガ</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>MoveDialog</name>
     <message>
         <source>移动</source>
-        <translation type="unfinished"></translation>
+        <translation>移動</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>X (mm)：</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (mm)：</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>幅 (mm)：</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>高さ (mm)：</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>回転 (°)：</translation>
     </message>
     <message>
         <source>锁定比例</source>
-        <translation type="unfinished"></translation>
+        <translation>縦横比を固定</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が大きすぎて開けません。</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を読み込めません。</translation>
     </message>
 </context>
 <context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影</translation>
     </message>
     <message>
         <source>照片透明度</source>
-        <translation type="unfinished"></translation>
+        <translation>写真の透明度</translation>
     </message>
     <message>
         <source>隐藏照片</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を隠す</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>加工中のため、現在は使用できません。</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation type="unfinished"></translation>
+        <translation>保存するデータがありません。</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを保存</translation>
     </message>
     <message>
         <source>Files (*.lumitra)</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル (*.lumitra)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開く</translation>
     </message>
     <message>
         <source>Images (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 (*.png *.bmp *.jpg *.jpeg *.lumitra *.dxf *.svg))</translation>
     </message>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>保存に失敗しました: %1
+%2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが存在しません: %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートされていないファイル形式: %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルをインポートできません。使用できる図形がありません: %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けません: %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しているか、プロジェクトファイルではないため開けません: %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しているため、完全な部分のみ開きました: %1</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>最近打开</source>
-        <translation type="unfinished"></translation>
+        <translation>最近使ったファイル</translation>
     </message>
     <message>
         <source>(无)</source>
-        <translation type="unfinished"></translation>
+        <translation>(なし)</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation type="unfinished"></translation>
+        <translation>リストをクリア</translation>
     </message>
 </context>
 <context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>SDカードのファイル</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation type="unfinished"></translation>
+        <translation>ボード：</translation>
     </message>
     <message>
         <source>文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation type="unfinished"></translation>
+        <translation>総容量：</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation type="unfinished"></translation>
+        <translation>使用済み：</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation type="unfinished"></translation>
+        <translation>空き：</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>状態：</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロード</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>运行</source>
-        <translation type="unfinished"></translation>
+        <translation>実行</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>选择上传文件</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロードするファイルを選択</translation>
     </message>
     <message>
         <source>G代码文件 (*.nc *.gcode *.txt);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコードファイル (*.nc *.gcode *.txt);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はすでにカードにあります。置き換えますか？</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を削除しますか？</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を実行しますか？</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation type="unfinished"></translation>
+        <translation>カードのファイル一覧を読み込めませんでした</translation>
     </message>
     <message>
         <source>删除文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの削除に失敗しました</translation>
     </message>
     <message>
         <source>运行文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの実行に失敗しました</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルのアップロードに失敗しました</translation>
     </message>
 </context>
 <context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
-        <translation type="unfinished"></translation>
+        <translation>SVGファイルの入れ子が深すぎます</translation>
     </message>
     <message>
         <source>SVG 文件格式错误</source>
-        <translation type="unfinished"></translation>
+        <translation>SVGファイルの形式が正しくありません</translation>
     </message>
     <message>
         <source>SVG 文件为空</source>
-        <translation type="unfinished"></translation>
+        <translation>SVGファイルが空です</translation>
     </message>
     <message>
         <source>SVG 文件图形数量过多</source>
-        <translation type="unfinished"></translation>
+        <translation>SVGファイルの図形が多すぎます</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けません</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
-        <translation type="unfinished"></translation>
+        <translation>SVGファイルが大きすぎます</translation>
     </message>
 </context>
 <context>
     <name>TuCeng</name>
     <message>
         <source>线条</source>
-        <translation type="unfinished"></translation>
+        <translation>ライン</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished"></translation>
+        <translation>塗りつぶし</translation>
     </message>
     <message>
         <source>交叉填充</source>
-        <translation type="unfinished"></translation>
+        <translation>クロス塗りつぶし</translation>
     </message>
     <message>
         <source>黑白</source>
-        <translation type="unfinished"></translation>
+        <translation>白黒</translation>
     </message>
     <message>
         <source>抖动</source>
-        <translation type="unfinished"></translation>
+        <translation>ディザ</translation>
     </message>
     <message>
         <source>轮廓</source>
-        <translation type="unfinished"></translation>
+        <translation>輪郭</translation>
     </message>
     <message>
         <source>灰度</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール</translation>
     </message>
     <message>
         <source>负向</source>
-        <translation type="unfinished"></translation>
+        <translation>ネガ</translation>
     </message>
     <message>
         <source>负像</source>
-        <translation type="unfinished"></translation>
+        <translation>ネガ</translation>
     </message>
 </context>
 <context>
     <name>TuCengItem2</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>上移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーを上へ</translation>
     </message>
     <message>
         <source>下移图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーを下へ</translation>
     </message>
 </context>
 <context>
     <name>Tu_Ceng_Zhi</name>
     <message>
         <source>图层参数</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー設定</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>モード：</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>名前：</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation type="unfinished"></translation>
+        <translation>塗りつぶし角度 (°)：</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>塗りつぶし間隔 (mm)：</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>オーバースキャン (mm)：</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished"></translation>
+        <translation>速度 (mm/min)：</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished"></translation>
+        <translation>パワー (%)：</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>パス数</translation>
     </message>
     <message>
         <source>输出</source>
-        <translation type="unfinished"></translation>
+        <translation>出力</translation>
     </message>
     <message>
         <source>显示</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>单向</source>
-        <translation type="unfinished"></translation>
+        <translation>単方向</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>WIFI_She_Zhi</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi設定</translation>
     </message>
     <message>
         <source>设备网络信息</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードのネットワーク情報</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation type="unfinished"></translation>
+        <translation>モード：</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク名：</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation type="unfinished"></translation>
+        <translation>状態：</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation type="unfinished"></translation>
+        <translation>IPアドレス：</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>连接路由器(STA模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>ルーターに接続 (STAモード)</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi名：</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFiパスワード：</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを表示</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードのアクセスポイント (APモード)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードのアドレス 192.168.0.1</translation>
     </message>
     <message>
         <source>切换到AP模式</source>
-        <translation type="unfinished"></translation>
+        <translation>APモードに切り替え</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>STA模式(连接路由器)</source>
-        <translation type="unfinished"></translation>
+        <translation>STAモード (ルーター接続)</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation type="unfinished"></translation>
+        <translation>APモード (アクセスポイント)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク名とパスワードを入力してください。</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードは8～90文字にしてください</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation type="unfinished"></translation>
+        <translation>名前とパスワードに !、?、~、$ は使用できません</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
-        <translation type="unfinished"></translation>
+        <translation>半角英数字と記号のみ入力できます</translation>
     </message>
 </context>
 <context>
     <name>Widget</name>
     <message>
         <source>文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished"></translation>
+        <translation>開く</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>预览</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>保存G代码</source>
-        <translation type="unfinished"></translation>
+        <translation>Gコードを保存</translation>
     </message>
     <message>
         <source>开始</source>
-        <translation type="unfinished"></translation>
+        <translation>開始</translation>
     </message>
     <message>
         <source>滚轴</source>
-        <translation type="unfinished"></translation>
+        <translation>ロータリー</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation type="unfinished"></translation>
+        <translation>回転角度：</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>视图</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューする図形がありません。</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にマシンを接続してください。</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>加工中のため、現在は使用できません。</translation>
     </message>
     <message>
         <source>新建页面</source>
-        <translation type="unfinished"></translation>
+        <translation>新規ページ</translation>
     </message>
     <message>
         <source>图像模式预览</source>
-        <translation type="unfinished"></translation>
+        <translation>画像モードのプレビュー</translation>
     </message>
     <message>
         <source>描摹位图</source>
-        <translation type="unfinished"></translation>
+        <translation>ビットマップをトレース</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>图层</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー</translation>
     </message>
     <message>
         <source>设备</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン</translation>
     </message>
     <message>
         <source>另存为</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を付けて保存</translation>
     </message>
     <message>
         <source>未命名</source>
-        <translation type="unfinished"></translation>
+        <translation>無題</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>デザインが保存されていません。今すぐ終了しますか？</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール</translation>
     </message>
 </context>
 <context>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にシリアル接続を切断してください。</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IPアドレスを入力してください。</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>無効なポート: %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFiで %1:%2 に接続できません。アドレスとボードの電源を確認してください。</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にマシンを接続してください。</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロード</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>正在上传 %1 (%2 MB)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をアップロード中 (%2 MB)</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をアップロード中: %2 / %3 MB</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロードに失敗しました: %1</translation>
     </message>
     <message>
         <source>已连接</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み</translation>
     </message>
 </context>
 <context>
     <name>WifiToolsController</name>
     <message>
         <source>WiFi设置</source>
-        <translation type="unfinished"></translation>
+        <translation>WiFi設定</translation>
     </message>
     <message>
         <source>SD卡文件管理</source>
-        <translation type="unfinished"></translation>
+        <translation>SDカードのファイル</translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>ボードを検索</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にマシンを接続してください。</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation type="unfinished"></translation>
+        <translation>IPアドレスを入力してください。</translation>
     </message>
 </context>
 <context>
     <name>lumitra::LanguageController</name>
     <message>
         <source>稍后重启</source>
-        <translation type="unfinished"></translation>
+        <translation>後で再起動</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation type="unfinished"></translation>
+        <translation>言語を変更しました。ソフトウェアを再起動してください。</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
 </context>
 </TS>
