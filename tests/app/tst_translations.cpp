@@ -1,11 +1,14 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
-// Keeps the English translation complete: every string that the sources mark
-// for translation must have a finished English entry.
+// Keeps every interface language complete: each of the ten translation files
+// holds exactly the strings the sources mark for translation, each with a
+// finished translation that keeps the source's placeholders, accelerator and
+// line breaks.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -42,8 +45,27 @@ class TestTranslations : public QObject
         return true;
     }
 
+    // The placeholders (%1, %n), accelerators ("&x") and line breaks of a text.
+    static QString shapeOf(const QString &text)
+    {
+        QStringList parts;
+        static const QRegularExpression placeholder(QStringLiteral("%(\\d+|n)"));
+        auto it = placeholder.globalMatch(text);
+        while (it.hasNext())
+            parts << it.next().captured(0);
+        parts.sort();
+        QString plain = text;
+        plain.remove(QStringLiteral("&&"));
+        static const QRegularExpression accelerator(QStringLiteral("&(?=[^\\s&])"));
+        parts << QStringLiteral("&x%1").arg(plain.count(accelerator));
+        parts << QStringLiteral("nl%1").arg(text.count(QLatin1Char('\n')));
+        return parts.join(QLatin1Char(' '));
+    }
+
+    Catalogue m_inSources;
+
 private slots:
-    void englishIsComplete()
+    void initTestCase()
     {
         QTemporaryDir tmp;
         const QString scanned = tmp.filePath(QStringLiteral("scan.ts"));
@@ -59,22 +81,45 @@ private slots:
         lupdate.start(QStringLiteral(LUMITRA_LUPDATE), args);
         QVERIFY(lupdate.waitForFinished(60000));
         QCOMPARE(lupdate.exitCode(), 0);
+        QVERIFY(readCatalogue(scanned, m_inSources));
+        QVERIFY(!m_inSources.isEmpty());
+    }
 
-        Catalogue inSources, english;
-        QVERIFY(readCatalogue(scanned, inSources));
-        QVERIFY(readCatalogue(src + QStringLiteral("/resources/language/yw2.ts"), english));
-        QVERIFY(!inSources.isEmpty());
-
-        QStringList missing;
-        for (auto it = inSources.cbegin(); it != inSources.cend(); ++it) {
-            const Entry e = english.value(it.key());
-            if (!english.contains(it.key()) || !e.finished || e.translation.isEmpty())
-                missing << it.key().first + QStringLiteral(": ") + it.key().second;
+    void everyLanguageIsComplete_data()
+    {
+        QTest::addColumn<QString>("code");
+        for (const char *code : {"zw", "yw", "hw", "rw", "dw", "ydlw", "fw", "xw", "pty", "ew"})
+            QTest::newRow(code) << QString::fromLatin1(code);
+    }
+    void everyLanguageIsComplete()
+    {
+        QFETCH(QString, code);
+        Catalogue file;
+        QVERIFY(readCatalogue(QStringLiteral(LUMITRA_SOURCE_DIR "/resources/language/") + code
+                                  + QStringLiteral("2.ts"),
+                              file));
+        QStringList problems;
+        for (auto it = m_inSources.cbegin(); it != m_inSources.cend(); ++it) {
+            const QString where = it.key().first + QStringLiteral(": ") + it.key().second;
+            if (!file.contains(it.key())) {
+                problems << QStringLiteral("missing ") + where;
+                continue;
+            }
+            const Entry e = file.value(it.key());
+            if (!e.finished || e.translation.trimmed().isEmpty())
+                problems << QStringLiteral("unfinished ") + where;
+            else if (shapeOf(e.translation) != shapeOf(it.key().second))
+                problems << QStringLiteral("placeholders, accelerator or line breaks differ: ")
+                                + where + QStringLiteral(" -> ") + e.translation;
         }
-        QVERIFY2(missing.isEmpty(),
-                 qPrintable(
-                     QStringLiteral("%1 untranslated English strings, e.g.\n  ").arg(missing.size())
-                     + missing.mid(0, 20).join(QStringLiteral("\n  "))));
+        // Nothing the sources no longer use lingers in the file.
+        for (auto it = file.cbegin(); it != file.cend(); ++it)
+            if (!m_inSources.contains(it.key()))
+                problems << QStringLiteral("not in the sources: ") + it.key().first
+                                + QStringLiteral(": ") + it.key().second;
+        QVERIFY2(problems.isEmpty(),
+                 qPrintable(QStringLiteral("%1 problems, e.g.\n  ").arg(problems.size())
+                            + problems.mid(0, 20).join(QStringLiteral("\n  "))));
     }
 };
 
