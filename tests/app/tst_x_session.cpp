@@ -5,6 +5,7 @@
 #include "window_driver.h"
 #include "x_server.h"
 
+#include "language.h"
 #include "language_controller.h"
 #include "program_state.h"
 #include "settings_store.h"
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 using namespace lumitra;
 using namespace window_test;
@@ -27,10 +29,8 @@ class TestXSession : public QObject
 private slots:
     void sessionInARealXWindow()
     {
-        if (qEnvironmentVariableIsSet(kInsideX)) {
-            scriptedSession();
-            return;
-        }
+        if (qEnvironmentVariableIsSet(kInsideX))
+            QSKIP("the session itself runs as scriptedSession");
         if (!XServer::available())
             QSKIP("Xvfb is not installed");
         XServer server;
@@ -45,21 +45,54 @@ private slots:
         session.setProcessEnvironment(env);
         session.setProcessChannelMode(QProcess::MergedChannels);
         session.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("sessionInARealXWindow")});
+                      {QStringLiteral("scriptedSession"), QStringLiteral("screenshots")});
         const bool finished = session.waitForFinished(60000);
         const QString output = QString::fromLocal8Bit(session.readAll());
         QVERIFY2(finished, qPrintable(output));
         QVERIFY2(session.exitStatus() == QProcess::NormalExit && session.exitCode() == 0,
                  qPrintable(output));
-        QVERIFY2(output.contains(QStringLiteral("PASS   : TestXSession::sessionInARealXWindow()")),
-                 qPrintable(output));
+        for (const char *part : {"scriptedSession", "screenshots"})
+            QVERIFY2(output.contains(
+                         QStringLiteral("PASS   : TestXSession::%1()").arg(QLatin1String(part))),
+                     qPrintable(output));
     }
 
-private:
+    // The main window in German, Japanese and Russian at 1280x720, written to
+    // test-output/screens/ beside the test for a person to look at.
+    void screenshots()
+    {
+        if (!qEnvironmentVariableIsSet(kInsideX))
+            QSKIP("runs inside the test's own X server");
+        const QString folder = QDir::current().filePath(QStringLiteral("test-output/screens"));
+        QVERIFY(QDir().mkpath(folder));
+        for (const char *code : {"dw", "rw", "ew"}) {
+            QTranslator translator;
+            QVERIFY(translator.load(language_resource(QString::fromLatin1(code))));
+            QCoreApplication::installTranslator(&translator);
+            {
+                Widget w;
+                w.resize(1280, 720);
+                w.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&w));
+                Driver d(&w);
+                for (int i = 0; i < 3; ++i)
+                    d.drawRectangle(QPointF(30 + 60 * i, -40), QPointF(70 + 60 * i, -90));
+                Driver::settle();
+                const QString file =
+                    QDir(folder).filePath(QStringLiteral("main-%1.png").arg(QLatin1String(code)));
+                QVERIFY(w.grab().save(file));
+                resetProgramState(); // nothing to ask when the window goes
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
+    }
+
     // Draw, add a page, switch pages ten times, change the language with
     // unsaved work (say "not yet" to quitting), then quit (confirm).
     void scriptedSession()
     {
+        if (!qEnvironmentVariableIsSet(kInsideX))
+            QSKIP("runs inside the test's own X server");
         QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
         QDir(config_dir()).removeRecursively();
         resetProgramState();
