@@ -34,6 +34,16 @@ ProductionController::ProductionController(DesignPages *pages, LayerPanelControl
     add(tr("材料测试卡"), &ProductionController::openTestCard);
 }
 
+ParameterLibraryDialog *ProductionController::libraryDialog() const
+{
+    return m_library;
+}
+
+TestCardDialog *ProductionController::testCardDialog() const
+{
+    return m_card;
+}
+
 bool ProductionController::applyPreset(const lumitra::ParameterPreset &preset)
 {
     if (!m_panel || !m_panel->layer())

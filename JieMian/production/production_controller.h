@@ -31,8 +31,8 @@ public:
     QList<QAction *> actions() const { return m_actions; }
 
     // The dialogs while open, else nullptr.
-    ParameterLibraryDialog *libraryDialog() const { return m_library; }
-    TestCardDialog *testCardDialog() const { return m_card; }
+    ParameterLibraryDialog *libraryDialog() const;
+    TestCardDialog *testCardDialog() const;
 
     // Writes a preset into the current layer as one undo step; false when no
     // layer is shown.
