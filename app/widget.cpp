@@ -22,6 +22,7 @@
 #include "machine_panel.h"
 #include "message_box.h"
 #include "photo_panel.h"
+#include "production_controller.h"
 #include "program_state.h"
 #include "project_commands.h"
 #include "recent_files_menu.h"
@@ -234,6 +235,10 @@ void Widget::setupMachine()
     m_camera = new CameraController(m_machine, m_wifi, m_jobs, m_pages, this, this);
     tools->addSeparator();
     tools->addActions(m_camera->actions());
+    // Production: the parameter library and the material test card.
+    m_production = new ProductionController(m_pages, m_layers, m_layerParameters, this, this);
+    tools->addSeparator();
+    tools->addActions(m_production->actions());
     ui->tools_Btn->setMenu(tools);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });

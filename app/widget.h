@@ -24,6 +24,7 @@ class Tu_Ceng_Zhi;
 class WifiLinkController;
 class WifiToolsController;
 class CameraController;
+class ProductionController;
 
 namespace lumitra {
 class LanguageController;
@@ -103,4 +104,5 @@ private:
     WifiLinkController *m_wifi = nullptr;
     WifiToolsController *m_wifiTools = nullptr;
     CameraController *m_camera = nullptr;
+    ProductionController *m_production = nullptr;
 };
