@@ -18,6 +18,14 @@ set_target_properties(Lumitra::Potrace PROPERTIES
   INTERFACE_INCLUDE_DIRECTORIES "${POTRACE_INCLUDE_DIR}"
   INTERFACE_LINK_LIBRARIES "${POTRACE_LIBRARY}")
 
+# zint (libzint-dev): header and library, no pkg-config file.
+find_path(ZINT_INCLUDE_DIR zint.h REQUIRED)
+find_library(ZINT_LIBRARY zint REQUIRED)
+add_library(Lumitra::Zint INTERFACE IMPORTED)
+set_target_properties(Lumitra::Zint PROPERTIES
+  INTERFACE_INCLUDE_DIRECTORIES "${ZINT_INCLUDE_DIR}"
+  INTERFACE_LINK_LIBRARIES "${ZINT_LIBRARY}")
+
 # dxflib (libdxflib-dev), through pkg-config.
 pkg_check_modules(DXFLIB REQUIRED IMPORTED_TARGET dxflib)
 add_library(Lumitra::Dxflib ALIAS PkgConfig::DXFLIB)
