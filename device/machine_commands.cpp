@@ -119,6 +119,11 @@ QStringList framingCommands(const QRectF &machineRect, int feed)
             jogTo(r.left(), r.top(), feed)};
 }
 
+QString jogBackTo(const QPointF &machinePoint, int feed)
+{
+    return jogTo(machinePoint.x(), machinePoint.y(), feed);
+}
+
 QRectF sceneToMachine(const QRectF &sceneRect)
 {
     const QRectF r = sceneRect.normalized();

@@ -54,6 +54,9 @@ QString jogOffset(int direction, int step);
 // jogs to the four corners and back to the first. `machineRect` in machine
 // coordinates (Y up), numbers written with two decimals.
 QStringList framingCommands(const QRectF &machineRect, int feed);
+// An absolute jog to `machinePoint` at `feed` ("$J=G90X..Y..F.."), such as the
+// way back to where the head was before framing.
+QString jogBackTo(const QPointF &machinePoint, int feed);
 // A canvas rectangle (scene units, y down) in machine coordinates (Y negated).
 QRectF sceneToMachine(const QRectF &sceneRect);
 

@@ -2,6 +2,7 @@
 
 #include "bitmap_raster.h"
 #include "fill_hatch.h"
+#include "gcode_number.h"
 #include "jk_tu_yuan.h"
 #include "job_output.h"
 #include "layer_list.h"
@@ -40,6 +41,14 @@ QByteArray layerComment(const QString &name)
     return line;
 }
 
+// The trailer of a job started at the current position: the head goes back to
+// where it started, so the same job can be run again at the same place.
+QByteArray trailerBackTo(const QPointF &head)
+{
+    return QByteArray("M9\nG1S0\nM5\nG90\nG0X") + fixedText(head.x(), 2) + 'Y'
+           + fixedText(head.y(), 2) + QByteArray("\nM2\nM30\n");
+}
+
 HatchSettings hatchSettingsOf(const TuCeng &layer)
 {
     HatchSettings s;
@@ -75,6 +84,14 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
     timer.start();
     m_lastError.clear();
     m_lastJobSize = 0;
+    m_lastShift = QPointF();
+    const LayerList &layers = m_layers ? *m_layers : LayerList::instance();
+    QPointF shift;
+    if (!jobShift(m_start, m_start.relative() ? jobBounds(tysz, layers) : QRectF(), &shift)) {
+        m_lastError = tr("当前位置未知");
+        qDebug() << "gcode: start at the current position without a known position";
+        return false;
+    }
     const RotarySettings rotary = m_rotary ? *m_rotary : loadRotarySettings();
     if (!rotary.isUsable()) {
         m_lastError = tr("滚轴参数无效");
@@ -91,17 +108,18 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
     ProgramState &state = programState();
     JobOutput output(file, rotary);
     PathEmitter emitter(output, rotary, &state.cancel);
+    emitter.setShift(shift);
     output.writeText(kHeader);
     output.writeText(state.preamble.toLocal8Bit());
     state.preamble.clear();
     output.writeText(rotaryStartBump(rotary, state.modelFlag));
 
-    const LayerList &layers = m_layers ? *m_layers : LayerList::instance();
     for (const TuCeng *layer : layers.layers()) {
         if (layer->shuchu)
             emitLayer(*layer, tysz, output, emitter);
     }
-    output.writeText(kTrailer);
+    output.writeText(m_start.mode == StartMode::CurrentPosition ? trailerBackTo(m_start.head)
+                                                                : kTrailer);
 
     if (!output.finish() || !file.commit()) {
         m_lastError = file.errorString();
@@ -110,6 +128,7 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
         return false;
     }
     m_lastJobSize = output.bytesWritten();
+    m_lastShift = shift;
     qDebug() << " 转换花费的时间" << timer.elapsed();
     emit zhuan_huan_wan_cheng();
     return true;

@@ -6,6 +6,10 @@
 //   and `cishu` times the layer's items (vector items by line, fill or cross
 //   fill; bitmap items by raster engraving), and finally the trailer
 //   "M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n".
+// A job start (job_origin.h) other than absolute moves every coordinate so
+// that the chosen anchor of the output bounds lands on the start point; a job
+// started at the current position ends with the head back there
+// ("G0X<x>Y<y>" in the trailer). Absolute jobs are written as they always were.
 // Numbers are millimetres and mm/min with two decimals, Y negated (machine Y
 // points up the screen), S = power percent x 10. Generation is synchronous on
 // the caller's thread; it polls programState().cancel and, when that is set,
@@ -14,6 +18,7 @@
 // whole job was written, so a failed run leaves the old file as it was.
 #pragma once
 
+#include "job_origin.h"
 #include "rotary.h"
 
 #include <QList>
@@ -45,6 +50,11 @@ public:
     // Rotary settings for the next jobs; unless set they are read from the
     // settings store at the start of every job.
     void setRotarySettings(const lumitra::RotarySettings &settings);
+    // Where the next jobs start; absolute unless set.
+    void setJobStart(const lumitra::JobStart &start) { m_start = start; }
+    const lumitra::JobStart &jobStart() const { return m_start; }
+    // The shift the last job was written with (machine mm).
+    QPointF lastShift() const { return m_lastShift; }
 
     // Why the last job failed (empty after a success).
     QString lastError() const { return m_lastError; }
@@ -55,7 +65,8 @@ public slots:
     // Writes the job for `tysz` (items in scene order) to `path`, or to
     // defaultJobPath() when `path` is empty. Returns false, without emitting
     // zhuan_huan_wan_cheng and without touching the file, when the file cannot
-    // be written or the rotary settings in use are not usable.
+    // be written, the rotary settings in use are not usable, or the job should
+    // start at the current position and that is not known.
     bool kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString &path);
 
 signals:
@@ -68,6 +79,8 @@ private:
 
     const LayerList *m_layers = nullptr;
     std::optional<lumitra::RotarySettings> m_rotary;
+    lumitra::JobStart m_start;
+    QPointF m_lastShift;
     QString m_lastError;
     qint64 m_lastJobSize = 0;
 };

@@ -83,8 +83,14 @@ bool loadSingleFile(const QString &path, InputKind kind, LoadedDesign &design, Q
 
 bool exportJob(const ExportOptions &options, QString *error)
 {
+    QMap<QString, QString> processOptions = options.processOptions;
+    JobStart start;
+    const QString origin = processOptions.take(QStringLiteral("origin"));
+    if (options.processOptions.contains(QStringLiteral("origin"))
+        && !parseOriginOption(origin, &start, error))
+        return false;
     LayerOverrides overrides;
-    if (!parseLayerOverrides(options.processOptions, &overrides, error))
+    if (!parseLayerOverrides(processOptions, &overrides, error))
         return false;
     if (options.output.isEmpty()) {
         *error = QStringLiteral("no output file given");
@@ -126,6 +132,7 @@ bool exportJob(const ExportOptions &options, QString *error)
     programState().cancel = false;
     Jk_gcode generator;
     generator.setLayerList(&design.layers);
+    generator.setJobStart(start);
     if (!generator.kai_shi_zhuan_huan(items, options.output)) {
         *error = QStringLiteral("cannot write %1: %2").arg(options.output, generator.lastError());
         return false;

@@ -7,7 +7,9 @@
 // parameters. The process options (see export_options.h) override the
 // parameters of every layer; a mode only applies to layers of its kind, and
 // for a single file it must fit the file. Rotary settings come from the
-// settings store as for any job.
+// settings store as for any job. The option "origin" (job_origin.h,
+// parseOriginOption) places the job: "user[:ANCHOR]" puts the anchor of the
+// output bounds at 0,0 of the work coordinates; absolute when not given.
 // On failure nothing is written at the output path and `error` holds a one-line
 // reason. Needs a Qt application object; runs on the caller's thread.
 #pragma once

@@ -93,8 +93,19 @@ Q_ALWAYS_INLINE void PathEmitter::formatX(double x, NumberText &out)
     }
 }
 
+void PathEmitter::setShift(const QPointF &machineShift)
+{
+    m_shifted = !machineShift.isNull();
+    m_shiftX = machineShift.x();
+    m_shiftY = -machineShift.y();
+}
+
 void PathEmitter::writeLine(char motion, double x, double y, const NumberText *power)
 {
+    if (m_shifted) {
+        x += m_shiftX;
+        y += m_shiftY;
+    }
     char *start = reserve(kLineRoom);
     start[0] = 'G';
     start[1] = motion;

@@ -49,6 +49,9 @@ public:
 
     // Takes the power and speed words of a layer for the paths that follow.
     void setLayer(const TuCeng &layer);
+    // Moves everything written from now on by `machineShift` (mm, machine
+    // axes: X as written, Y up). A zero shift writes the numbers untouched.
+    void setShift(const QPointF &machineShift);
 
     // Emits a whole path in scene coordinates: move elements as moves, line
     // elements as burns, cubic curves as samples about 0.8 mm apart along
@@ -109,6 +112,9 @@ private:
 
     JobOutput &m_output;
     const std::atomic_bool *m_cancel;
+    bool m_shifted = false;      // the job is moved (job start point)
+    double m_shiftX = 0.0;       // added to scene x
+    double m_shiftY = 0.0;       // added to scene y (minus the machine shift)
     QByteArray m_pathBump;       // after the first move of a path (rotary on axis X)
     NumberText m_power;          // the layer's power (S)
     NumberText m_zeroPower;      // S for coasting

@@ -41,13 +41,47 @@ void GcodeJobController::setFileChooser(FileChooser chooser)
     m_chooser = chooser ? std::move(chooser) : FileChooser(chooseWithDialog);
 }
 
-bool GcodeJobController::confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items)
+void GcodeJobController::setJobStartSource(std::function<JobStart()> source)
+{
+    m_startSource = std::move(source);
+}
+
+JobStart GcodeJobController::currentJobStart() const
+{
+    return m_startSource ? m_startSource() : loadJobStart();
+}
+
+const LayerList &GcodeJobController::layers() const
+{
+    return m_layers ? *m_layers : LayerList::instance();
+}
+
+bool GcodeJobController::placeJob(const QList<Jk_tu_yuan *> &items, bool askWorkArea)
+{
+    const JobStart start = currentJobStart();
+    QPointF shift;
+    if (!jobShift(start, start.relative() ? jobBounds(items, layers()) : QRectF(), &shift)) {
+        show_notice(m_parent, tr("当前位置未知,请先连接设备!"));
+        return false;
+    }
+    if (askWorkArea && start.mode != StartMode::UserOrigin && !confirmOutsideWorkArea(items, shift))
+        return false;
+    m_generator->setJobStart(start);
+    return true;
+}
+
+bool GcodeJobController::confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items,
+                                                const QPointF &machineShift)
 {
     const QRectF area = currentWorkArea();
-    const QList<OutsideItem> outside =
-        itemsOutsideWorkArea(items, m_layers ? *m_layers : LayerList::instance(), area);
+    // Items moved by the shift leave the area exactly when the unmoved items
+    // leave the area moved the other way.
+    QList<OutsideItem> outside =
+        itemsOutsideWorkArea(items, layers(), shiftSceneRect(area, -machineShift));
     if (outside.isEmpty())
         return true;
+    for (OutsideItem &o : outside)
+        o.bounds = shiftSceneRect(o.bounds, machineShift);
     // Name each one by its layer and where it lies in machine coordinates
     // (Y up), so the user can find it on the canvas.
     constexpr int kListed = 8;
@@ -75,7 +109,7 @@ bool GcodeJobController::confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items
 
 bool GcodeJobController::saveGcode(const QList<Jk_tu_yuan *> &items)
 {
-    if (!confirmOutsideWorkArea(items))
+    if (!placeJob(items, true))
         return false;
     QString path = m_chooser(m_parent, m_lastFolder);
     if (path.isEmpty())
@@ -84,10 +118,15 @@ bool GcodeJobController::saveGcode(const QList<Jk_tu_yuan *> &items)
     if (suffix != QLatin1String("nc") && suffix != QLatin1String("gcode"))
         path += QStringLiteral(".nc");
     m_lastFolder = QFileInfo(path).absolutePath();
-    return saveGcodeTo(items, path);
+    return writeJob(items, path);
 }
 
 bool GcodeJobController::saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QString &path)
+{
+    return placeJob(items, false) && writeJob(items, path);
+}
+
+bool GcodeJobController::writeJob(const QList<Jk_tu_yuan *> &items, const QString &path)
 {
     programState().cancel = false;
     if (!m_generator->kai_shi_zhuan_huan(items, path)) {
@@ -100,7 +139,7 @@ bool GcodeJobController::saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QSt
 
 bool GcodeJobController::prepareRun(const QList<Jk_tu_yuan *> &items)
 {
-    if (!confirmOutsideWorkArea(items))
+    if (!placeJob(items, true))
         return false;
     const RotarySettings rotary = loadRotarySettings();
     if (rotary.rewrites()) {

@@ -2,8 +2,11 @@
 // job file a run sends ("code.txt"), and the rotary dialog.
 #pragma once
 
+#include "job_origin.h"
+
 #include <QList>
 #include <QObject>
+#include <QPointF>
 #include <QString>
 #include <functional>
 
@@ -30,17 +33,30 @@ public:
     void setLayerList(const LayerList *layers);
     // Replaces the save dialog (tests).
     void setFileChooser(FileChooser chooser);
+    // Where saved and run jobs start (job_origin.h); the window gives the
+    // machine controller's jobStart(). Unless set, the stored mode and anchor
+    // with no known head position.
+    void setJobStartSource(std::function<lumitra::JobStart()> source);
+    lumitra::JobStart currentJobStart() const;
 
     // Before a job is saved or run: when items would burn beyond the work
     // area, names them in a question ("继续" / "取消"). True to go on.
-    bool confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items);
+    // `machineShift` is where the job is moved to (job start); the items are
+    // checked and named where they will burn. A job placed at the user origin
+    // is not checked: where that origin lies on the machine is the
+    // controller's G92 offset, which the program does not know.
+    bool confirmOutsideWorkArea(const QList<Jk_tu_yuan *> &items,
+                                const QPointF &machineShift = QPointF());
 
 public slots:
+    // The job start is resolved first for save and run: started at the current
+    // position while none is known, the user is told and nothing is written.
     // "save G-code": after the work-area question, asks for a ".nc" or ".gcode" file (".nc" is
     // added when the name has neither) and writes the job there. False when cancelled or failed
     // (the user was told).
     bool saveGcode(const QList<Jk_tu_yuan *> &items);
-    // Writes the job to `path`; tells the user and returns false on failure.
+    // Writes the job to `path` (no work-area question: the preview); tells the
+    // user and returns false on failure.
     bool saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QString &path);
     // Before a run: the work-area question; with the rotary on, asks
     // "请在滚轴界面检查相关参数再运行!" and stops unless confirmed (with unusable rotary settings
@@ -57,9 +73,17 @@ signals:
     void saved(const QString &path);
 
 private:
+    // Resolves the job start for `items`, gives it to the generator and, with
+    // `askWorkArea`, asks the work-area question. False when the job must not
+    // be written.
+    bool placeJob(const QList<Jk_tu_yuan *> &items, bool askWorkArea);
+    bool writeJob(const QList<Jk_tu_yuan *> &items, const QString &path);
+    const LayerList &layers() const;
+
     QWidget *m_parent;
     Jk_gcode *m_generator;
     FileChooser m_chooser;
     QString m_lastFolder;
     const LayerList *m_layers = nullptr; // the program-wide list when null
+    std::function<lumitra::JobStart()> m_startSource;
 };

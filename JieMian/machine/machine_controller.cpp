@@ -41,6 +41,7 @@ MachineController::MachineController(MachinePanel *panel, QWidget *dialogParent,
     });
     m_portChoice = new PortChoice(panel->form().port_Box, this);
     connectPanel();
+    connectStartRow();
     if (QCoreApplication *app = QCoreApplication::instance())
         connect(app, &QCoreApplication::aboutToQuit, this, &MachineController::shutdownLink);
 }
@@ -191,6 +192,7 @@ void MachineController::showDisconnected()
         programState().connectionMode = lumitra::NotConnected;
     m_afterConnectTimer.stop();
     m_indicatorTimer.stop();
+    m_headKnown = false;
     if (m_panel) {
         Ui::MachinePanel &f = m_panel->form();
         f.connect_Btn->setText(tr("连接"));
@@ -254,6 +256,7 @@ void MachineController::applyStatus(StatusLink link, const QString &text)
             m_x = r.x;
         if (r.hasY)
             m_y = r.y;
+        m_headKnown = r.hasX && r.hasY ? true : m_headKnown;
         f.pos_Lab->setText(QStringLiteral("X:%1 Y:%2").arg(m_x, 0, 'f', 3).arg(m_y, 0, 'f', 3));
         emit positionChanged(m_x, m_y);
     }
@@ -345,6 +348,7 @@ void MachineController::onWifiLost(bool expected)
         return;
     programState().connectionMode = lumitra::NotConnected;
     m_indicatorTimer.stop();
+    m_headKnown = false;
     m_wifiStatus = StatusDisplayState();
     setWifiBusy(false);
     if (m_panel) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job_origin.h"
 #include "status_reaction.h"
 #include "work_area.h"
 
@@ -51,7 +52,15 @@ public:
 
     // Where the frame button and frameDesign() take the design's output area
     // (scene rectangle, mm); the window gives outputBounds() of its scene.
+    // The frame is moved to where the job will run (jobStart()).
     void setFrameSource(std::function<QRectF()> source) { m_frameSource = std::move(source); }
+    // Where jobs start: the panel's "起点" row (mode and anchor, kept in the
+    // settings store) and the head's last reported position (known once the
+    // link reported one; forgotten when the link goes down).
+    lumitra::JobStart jobStart() const;
+    // The machine position last reported (mm); headKnown() false before any.
+    QPointF headPosition() const { return QPointF(m_x, m_y); }
+    bool headKnown() const { return m_headKnown; }
     // Replaces the run-file dialog (tests); returns the chosen path or "".
     void setFileChooser(std::function<QString()> chooser) { m_fileChooser = std::move(chooser); }
     // How long a connect waits for the controller's "VER:" answer (default 5000 ms).
@@ -151,6 +160,8 @@ private:
     void sendWifi(const QString &command);
     void sendTestFire();
     void connectPanel();
+    // The "起点" row: shows the stored choice and stores every change.
+    void connectStartRow();
     void connectWatcher();
 
     QPointer<MachinePanel> m_panel;
@@ -165,6 +176,7 @@ private:
     bool m_settingsApplied = false; // settings seen at least once this run
     double m_x = 0.0;               // machine position last reported, mm
     double m_y = 0.0;
+    bool m_headKnown = false;
     double m_zTravel = 0.0;
     double m_laserMaxS = 1000.0;
     int m_runSeconds = 0;

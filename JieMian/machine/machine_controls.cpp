@@ -248,8 +248,19 @@ void MachineController::frameDesign()
         qDebug() << " out nothing to frame";
         return;
     }
-    const QStringList lines = machine::framingCommands(machine::sceneToMachine(area),
-                                                       m_panel->form().feed_Slider->value());
+    // The frame shows where the job will burn; started at the current
+    // position, the head comes back there so that the job starts where it was.
+    const lumitra::JobStart start = jobStart();
+    QPointF shift;
+    if (!lumitra::jobShift(start, area, &shift)) {
+        lumitra::show_notice(m_dialogParent, tr("当前位置未知,请等待设备上报位置!"));
+        return;
+    }
+    QStringList lines =
+        machine::framingCommands(machine::sceneToMachine(lumitra::shiftSceneRect(area, shift)),
+                                 m_panel->form().feed_Slider->value());
+    if (start.mode == lumitra::StartMode::CurrentPosition)
+        lines << machine::jogBackTo(start.head, m_panel->form().feed_Slider->value());
     if (programState().connectionMode == lumitra::SerialLink) {
         m_com->queueText(lines.join(QLatin1Char('\n')));
         return;

@@ -5,6 +5,7 @@ target_sources(lumitra_jiemian PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/machine_panel.ui
   ${CMAKE_CURRENT_LIST_DIR}/machine_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/machine_controller.h
   ${CMAKE_CURRENT_LIST_DIR}/machine_controls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/job_start_row.cpp
   ${CMAKE_CURRENT_LIST_DIR}/port_choice.cpp ${CMAKE_CURRENT_LIST_DIR}/port_choice.h
   ${CMAKE_CURRENT_LIST_DIR}/frame_area.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_area.h
   ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.h)

@@ -50,6 +50,9 @@ private slots:
     void runFileShowsIndicatorUntilIdle();
     void unplugShowsDisconnected();
     void framing();
+    void framingFollowsTheJobStart_data();
+    void framingFollowsTheJobStart();
+    void startChoiceSurvivesARestart();
     void outputBoundsSkipsHiddenLayers();
     void watcherFillsPortList();
     void wifiCommands();
@@ -78,6 +81,7 @@ void TestMachineController::init()
         m_messages.append(r);
         return 1;
     });
+    lumitra::saveJobStart(lumitra::JobStart()); // jobs start where they are drawn
     m_panel = std::make_unique<MachinePanel>();
     m_controller = std::make_unique<MachineController>(m_panel.get(), m_panel.get());
 }
@@ -646,6 +650,90 @@ void TestMachineController::unplugShowsDisconnected()
     QVERIFY(!m_controller->link()->isOpen());
     m_panel->form().home_Btn->click();
     QCOMPARE(m_messages.last().message, QString("请先连接设备!"));
+}
+
+void TestMachineController::framingFollowsTheJobStart_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("anchor");
+    QTest::addColumn<QStringList>("expected");
+    // The design covers machine X 10..60, Y 50..80; the head reports 100, 40.
+    // Started there, the head comes back to it after the frame.
+    QTest::newRow("current position, bottom left") << 1 << 6
+                                                   << QStringList{"M5S0",
+                                                                  "$J=G90X100.00Y40.00F3000",
+                                                                  "$J=G90X150.00Y40.00F3000",
+                                                                  "$J=G90X150.00Y70.00F3000",
+                                                                  "$J=G90X100.00Y70.00F3000",
+                                                                  "$J=G90X100.00Y40.00F3000",
+                                                                  "$J=G90X100.00Y40.00F3000"};
+    QTest::newRow("current position, top right") << 1 << 2
+                                                 << QStringList{"M5S0",
+                                                                "$J=G90X50.00Y10.00F3000",
+                                                                "$J=G90X100.00Y10.00F3000",
+                                                                "$J=G90X100.00Y40.00F3000",
+                                                                "$J=G90X50.00Y40.00F3000",
+                                                                "$J=G90X50.00Y10.00F3000",
+                                                                "$J=G90X100.00Y40.00F3000"};
+    QTest::newRow("user origin, centre") << 2 << 4
+                                         << QStringList{"M5S0",
+                                                        "$J=G90X-25.00Y-15.00F3000",
+                                                        "$J=G90X25.00Y-15.00F3000",
+                                                        "$J=G90X25.00Y15.00F3000",
+                                                        "$J=G90X-25.00Y15.00F3000",
+                                                        "$J=G90X-25.00Y-15.00F3000"};
+}
+
+void TestMachineController::framingFollowsTheJobStart()
+{
+    QFETCH(int, mode);
+    QFETCH(int, anchor);
+    QFETCH(QStringList, expected);
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    Ui::MachinePanel &f = m_panel->form();
+    f.startMode_Box->setCurrentIndex(mode);
+    f.startAnchor_Box->setCurrentIndex(anchor);
+    m_controller->setFrameSource([] { return QRectF(10, -80, 50, 30); });
+    if (mode == 1) {
+        // No position reported yet: refused.
+        f.frame_Btn->click();
+        QCOMPARE(m_messages.last().message, QString("当前位置未知,请等待设备上报位置!"));
+        QSignalSpy moved(m_controller.get(), &MachineController::positionChanged);
+        fake.sendRaw("<Idle|MPos:100.000,40.000,0.000|FS:0,0>\r\n");
+        QVERIFY(moved.wait(3000));
+        QVERIFY(m_controller->headKnown());
+    }
+    f.frame_Btn->click();
+    // Only the frame: the settings query after connecting may come in between.
+    auto frameLines = [&fake] {
+        QStringList lines = fake.lines();
+        lines.erase(
+            std::remove_if(lines.begin(), lines.end(),
+                           [](const QString &l) { return !l.startsWith("$J=") && l != "M5S0"; }),
+            lines.end());
+        return lines;
+    };
+    QTRY_COMPARE(frameLines(), expected);
+    m_panel->form().startMode_Box->setCurrentIndex(0);
+}
+
+void TestMachineController::startChoiceSurvivesARestart()
+{
+    m_panel->form().startMode_Box->setCurrentIndex(2);
+    m_panel->form().startAnchor_Box->setCurrentIndex(8);
+    QCOMPARE(int(m_controller->jobStart().mode), int(lumitra::StartMode::UserOrigin));
+    QCOMPARE(m_controller->jobStart().anchor, 8);
+    // A new panel and controller, as at the next start: the same choice.
+    m_controller.reset();
+    m_panel = std::make_unique<MachinePanel>();
+    m_controller = std::make_unique<MachineController>(m_panel.get(), m_panel.get());
+    QCOMPARE(m_panel->form().startMode_Box->currentIndex(), 2);
+    QCOMPARE(m_panel->form().startAnchor_Box->currentIndex(), 8);
+    QVERIFY(m_panel->form().startAnchor_Box->isEnabled());
+    m_panel->form().startMode_Box->setCurrentIndex(0);
+    QVERIFY(!m_panel->form().startAnchor_Box->isEnabled());
+    QCOMPARE(int(lumitra::loadJobStart().mode), int(lumitra::StartMode::Absolute));
 }
 
 void TestMachineController::framing()

@@ -17,6 +17,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+Q_DECLARE_METATYPE(lumitra::JobStart)
+
 using namespace lumitra;
 
 Q_DECLARE_METATYPE(lumitra::RotarySettings)
@@ -71,6 +73,8 @@ private slots:
     void run();
     void saveGcode_data();
     void saveGcode();
+    void runPlacesTheJob_data();
+    void runPlacesTheJob();
 
 private:
     QList<MessageRequest> m_messages;
@@ -83,6 +87,7 @@ void TestGcodeUi::init()
 {
     resetProgramState();
     saveRotarySettings(RotarySettings());
+    saveJobStart(JobStart()); // jobs start where they are drawn
     m_messages.clear();
     m_answer = 1;
     set_message_handler([this](const MessageRequest &r) {
@@ -247,6 +252,58 @@ void TestGcodeUi::saveGcode()
         return;
     QCOMPARE(saved.first().first().toString(), m_dir.filePath(written));
     QVERIFY(readFileBytes(m_dir.filePath(written)).startsWith("M4\nM8\n;L0\n"));
+}
+
+void TestGcodeUi::runPlacesTheJob_data()
+{
+    QTest::addColumn<JobStart>("start");
+    QTest::addColumn<QString>("message"); // what the user is asked or told; empty for nothing
+    QTest::addColumn<QByteArray>("job");  // a line of code.txt; empty when no job is written
+    // The design is one segment at machine X 0..20, Y 10, anchored at its left end.
+    JobStart absolute;
+    JobStart here;
+    here.mode = StartMode::CurrentPosition;
+    here.anchor = 3;
+    here.headKnown = true;
+    here.head = QPointF(100, 100);
+    JobStart nearEdge = here;
+    nearEdge.head = QPointF(390, 100);
+    JobStart unknown = here;
+    unknown.headKnown = false;
+    JobStart user;
+    user.mode = StartMode::UserOrigin;
+    user.anchor = kAnchorCentre;
+    QTest::newRow("absolute") << absolute << QString() << QByteArray("G0X0.00Y10.00");
+    QTest::newRow("current position") << here << QString() << QByteArray("G0X100.00Y100.00");
+    // Moved past the right edge of the 400 mm area: asked where it will burn; cancelled.
+    QTest::newRow("current position, beyond the area")
+        << nearEdge << "X 390.0..410.0, Y 100.0..100.0" << QByteArray();
+    QTest::newRow("current position unknown")
+        << unknown << "当前位置未知,请先连接设备!" << QByteArray();
+    // Negative work coordinates, but the user origin's place is not known: no question.
+    QTest::newRow("user origin") << user << QString() << QByteArray("G0X-10.00Y0.00");
+}
+
+void TestGcodeUi::runPlacesTheJob()
+{
+    QFETCH(JobStart, start);
+    QFETCH(QString, message);
+    QFETCH(QByteArray, job);
+    QFile::remove(Jk_gcode::defaultJobPath());
+    m_answer = 0; // a work-area question is cancelled
+    GcodeJobController controller(nullptr);
+    controller.setLayerList(&m_design.layers);
+    controller.setJobStartSource([start] { return start; });
+    QCOMPARE(controller.prepareRun(m_design.items()), !job.isEmpty());
+    QCOMPARE(m_messages.size(), message.isEmpty() ? 0 : 1);
+    if (!message.isEmpty())
+        QVERIFY2(m_messages.first().message.contains(message),
+                 qPrintable(m_messages.first().message));
+    if (job.isEmpty()) {
+        QVERIFY(!QFile::exists(Jk_gcode::defaultJobPath()));
+        return;
+    }
+    QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains(job));
 }
 
 QTEST_MAIN(TestGcodeUi)
