@@ -7,9 +7,9 @@ namespace lumitra {
 
 QStringList process_option_names()
 {
-    return {QStringLiteral("power"),   QStringLiteral("speed"),   QStringLiteral("passes"),
-            QStringLiteral("mode"),    QStringLiteral("spacing"), QStringLiteral("angle"),
-            QStringLiteral("overscan")};
+    return {QStringLiteral("power"),    QStringLiteral("speed"),   QStringLiteral("passes"),
+            QStringLiteral("mode"),     QStringLiteral("spacing"), QStringLiteral("angle"),
+            QStringLiteral("overscan"), QStringLiteral("origin")};
 }
 
 CommandLine parse_command_line(const QStringList &arguments)
@@ -66,7 +66,11 @@ CommandLine parse_command_line(const QStringList &arguments)
                         "or negative for bitmaps.")},
         {QStringLiteral("spacing"), QStringLiteral("Fill and raster line spacing in mm.")},
         {QStringLiteral("angle"), QStringLiteral("Fill angle in degrees.")},
-        {QStringLiteral("overscan"), QStringLiteral("Overscan in mm.")}};
+        {QStringLiteral("overscan"), QStringLiteral("Overscan in mm.")},
+        {QStringLiteral("origin"),
+         QStringLiteral("Where the job is placed: absolute (default), or user[:ANCHOR] to put that "
+                        "point of the design (top-left, top, top-right, left, centre, right, "
+                        "bottom-left, bottom, bottom-right) at the work origin 0,0.")}};
     for (const QString &name : process_option_names())
         parser.addOption(QCommandLineOption(name, optionHelp.value(name), QStringLiteral("VALUE")));
     parser.addOption(portOpt);

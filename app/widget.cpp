@@ -2,6 +2,7 @@
 #include "ui_widget.h"
 
 #include "align_panel.h"
+#include "barcode_actions.h"
 #include "camera_controller.h"
 #include "close_guard.h"
 #include "design_pages.h"
@@ -235,10 +236,20 @@ void Widget::setupMachine()
     m_camera = new CameraController(m_machine, m_wifi, m_jobs, m_pages, this, this);
     tools->addSeparator();
     tools->addActions(m_camera->actions());
+    // Jobs start where the machine panel says (absolute, head, user origin).
+    m_jobs->setJobStartSource([this] { return m_machine->jobStart(); });
+    // QR codes and barcodes land on the current page like any import.
+    auto *barcodes = new BarcodeActions(this);
+    connect(barcodes, &BarcodeActions::itemsCreated, this,
+            [this](const QList<Jk_tu_yuan *> &items) {
+                if (Jk_chang_jing *scene = m_pages->currentScene())
+                    scene->addItemsUndoable(items);
+            });
     // Production: the parameter library and the material test card.
     m_production = new ProductionController(m_pages, m_layers, m_layerParameters, this, this);
     tools->addSeparator();
     tools->addActions(m_production->actions());
+    tools->addActions(barcodes->actions());
     ui->tools_Btn->setMenu(tools);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });

@@ -15,11 +15,6 @@ namespace {
 constexpr double kTextEmModules = 9.0;
 constexpr double kTextGapModules = 1.5;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("lumitra::Barcode", text);
-}
-
 TextSettings textSettings(double sizeMm)
 {
     TextSettings s;
@@ -51,7 +46,7 @@ bool layoutBarcode(const BarcodeSettings &settings, BarcodeLayout *out, QString 
     if (!(settings.widthMm > 0) || (linear && !(settings.heightMm > 0))
         || settings.quietModules < 0) {
         if (error)
-            *error = tr("尺寸必须大于 0!");
+            *error = QCoreApplication::translate("lumitra::Barcode", "尺寸必须大于 0!");
         return false;
     }
     BarcodeLayout l;

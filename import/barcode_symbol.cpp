@@ -42,11 +42,6 @@ bool lengthFits(BarcodeKind kind, int length)
     return true;
 }
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("lumitra::Barcode", text);
-}
-
 } // namespace
 
 int ModuleGrid::darkCount() const
@@ -67,13 +62,13 @@ bool encodeBarcode(BarcodeKind kind, const QString &data, QrLevel level, Barcode
 {
     if (data.isEmpty()) {
         if (error)
-            *error = tr("请输入内容!");
+            *error = QCoreApplication::translate("lumitra::Barcode", "请输入内容!");
         return false;
     }
     std::unique_ptr<zint_symbol, SymbolDeleter> symbol(ZBarcode_Create());
     if (!symbol) {
         if (error)
-            *error = tr("条码库无法使用!");
+            *error = QCoreApplication::translate("lumitra::Barcode", "条码库无法使用!");
         return false;
     }
     symbol->symbology = zintSymbology(kind);
@@ -90,8 +85,8 @@ bool encodeBarcode(BarcodeKind kind, const QString &data, QrLevel level, Barcode
     }
     if (!lengthFits(kind, utf8.size())) {
         if (error)
-            *error = kind == BarcodeKind::Ean13 ? tr("EAN-13 需要 12 或 13 位数字!")
-                                                : tr("UPC-A 需要 11 或 12 位数字!");
+            *error = kind == BarcodeKind::Ean13 ? QCoreApplication::translate("lumitra::Barcode", "EAN-13 需要 12 或 13 位数字!")
+                                                : QCoreApplication::translate("lumitra::Barcode", "UPC-A 需要 11 或 12 位数字!");
         return false;
     }
     if (symbol->rows <= 0 || symbol->width <= 0) {

@@ -104,6 +104,68 @@
     </message>
 </context>
 <context>
+    <name>BarcodeActions</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BarcodeDialog</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QR 码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>内容：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宽度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条高：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静区：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> 模块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>纠错等级：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>无法生成条码：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
@@ -515,6 +577,10 @@ Fortfahren?</translation>
         <source>继续</source>
         <translation>Fortfahren</translation>
     </message>
+    <message>
+        <source>当前位置未知,请先连接设备!</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
@@ -660,6 +726,10 @@ Fortfahren?</translation>
     <message>
         <source>滚轴参数无效</source>
         <translation>Ungültige Drehachsen-Einstellungen</translation>
+    </message>
+    <message>
+        <source>当前位置未知</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -853,6 +923,10 @@ Fortfahren?</translation>
         <source>WiFi连接意外断开!</source>
         <translation>WLAN-Verbindung unerwartet verloren!</translation>
     </message>
+    <message>
+        <source>当前位置未知,请等待设备上报位置!</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MachinePanel</name>
@@ -903,6 +977,66 @@ Fortfahren?</translation>
     <message>
         <source>点火</source>
         <translation>Testschuss</translation>
+    </message>
+    <message>
+        <source>起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>任务从哪里开始</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>绝对坐标</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前位置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用户原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图形的哪个点放到起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右下</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1136,136 @@ Fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>ParameterLibrary</name>
+    <message>
+        <source>不是有效的JSON:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是参数库文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库版本不支持</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>第%1项的%2无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法写入文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法读取文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ParameterLibraryDialog</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称：</source>
+        <translation type="unfinished">Name:</translation>
+    </message>
+    <message>
+        <source>厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从当前图层添加</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>应用到当前图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重命名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished">Löschen</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库 (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先选择一个图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>已有同名预设,是否替换?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished">Hinweis</translation>
+    </message>
+    <message>
+        <source>请先选择一个预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已有同名预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导入失败:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已添加%1个预设,替换%2个</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出失败:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PhotoPanel</name>
     <message>
         <source>拍照</source>
@@ -1022,6 +1286,25 @@ Fortfahren?</translation>
     <message>
         <source>取消</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ProductionController</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已存入参数库:%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1224,6 +1507,96 @@ Fortfahren?</translation>
     <message>
         <source>SVG 文件过大</source>
         <translation>Die SVG-Datei ist zu groß</translation>
+    </message>
+</context>
+<context>
+    <name>TestCard</name>
+    <message>
+        <source>行数和列数至少为1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率须在0到100之间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>速度至少为5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尺寸或次数无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TestCardDialog</name>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率(%)：</source>
+        <translation type="unfinished">Leistung (%):</translation>
+    </message>
+    <message>
+        <source>速度(mm/min)：</source>
+        <translation type="unfinished">Geschw. (mm/min):</translation>
+    </message>
+    <message>
+        <source>行 × 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>方块 / 间距：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式 / 次数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>线条</source>
+        <translation type="unfinished">Linie</translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation type="unfinished">Füllen</translation>
+    </message>
+    <message>
+        <source>生成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳方块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳 行 / 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料 / 厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>存入参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块超过%2个图层,将分成%3页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块,1页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入材料</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1605,6 +1978,29 @@ Fortfahren?</translation>
     <message>
         <source>IP不能为空!</source>
         <translation>Die IP-Adresse darf nicht leer sein!</translation>
+    </message>
+</context>
+<context>
+    <name>lumitra::Barcode</name>
+    <message>
+        <source>尺寸必须大于 0!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入内容!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条码库无法使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EAN-13 需要 12 或 13 位数字!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPC-A 需要 11 或 12 位数字!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -56,19 +56,19 @@
     </message>
     <message>
         <source>行数：</source>
-        <translation>Lignes :</translation>
+        <translation>Lignes&#xa0;:</translation>
     </message>
     <message>
         <source>列数：</source>
-        <translation>Colonnes :</translation>
+        <translation>Colonnes&#xa0;:</translation>
     </message>
     <message>
         <source>列间距(mm)：</source>
-        <translation>Espacement colonnes (mm) :</translation>
+        <translation>Espacement colonnes (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation>Espacement lignes (mm) :</translation>
+        <translation>Espacement lignes (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>圆形阵列</source>
@@ -76,19 +76,19 @@
     </message>
     <message>
         <source>数量：</source>
-        <translation>Nombre :</translation>
+        <translation>Nombre&#xa0;:</translation>
     </message>
     <message>
         <source>中心X(mm)：</source>
-        <translation>Centre X (mm) :</translation>
+        <translation>Centre X (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>中心Y(mm)：</source>
-        <translation>Centre Y (mm) :</translation>
+        <translation>Centre Y (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>角度范围(°)：</source>
-        <translation>Plage d'angle (°) :</translation>
+        <translation>Plage d&apos;angle (°)&#xa0;:</translation>
     </message>
     <message>
         <source>旋转副本</source>
@@ -104,10 +104,72 @@
     </message>
 </context>
 <context>
+    <name>BarcodeActions</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BarcodeDialog</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QR 码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>内容：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宽度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条高：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静区：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> 模块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>纠错等级：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+    <message>
+        <source>无法生成条码：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CalibrationStore</name>
     <message>
         <source>请先在设置界面校准摄像头!</source>
-        <translation>Calibrez d'abord la caméra dans les paramètres !</translation>
+        <translation>Calibrez d&apos;abord la caméra dans les paramètres&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -122,15 +184,15 @@
     </message>
     <message>
         <source>设备没有响应,请检查WiFi连接!</source>
-        <translation>La carte ne répond pas. Vérifiez la liaison WiFi !</translation>
+        <translation>La carte ne répond pas. Vérifiez la liaison WiFi&#xa0;!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation>Indisponible pendant que la machine fonctionne !</translation>
+        <translation>Indisponible pendant que la machine fonctionne&#xa0;!</translation>
     </message>
     <message>
         <source>使用相机必须要在WiFi模式!</source>
-        <translation>La caméra ne fonctionne qu'en WiFi !</translation>
+        <translation>La caméra ne fonctionne qu&apos;en WiFi&#xa0;!</translation>
     </message>
     <message>
         <source>取消拍照</source>
@@ -142,7 +204,7 @@
     </message>
     <message>
         <source>滚轴模式不建议拍照!</source>
-        <translation>La prise de photo en mode rotatif est déconseillée !</translation>
+        <translation>La prise de photo en mode rotatif est déconseillée&#xa0;!</translation>
     </message>
     <message>
         <source>提示</source>
@@ -158,7 +220,7 @@
     </message>
     <message>
         <source>获取照片失败,正在重试(第%1次): %2</source>
-        <translation>Échec de la récupération de la photo, nouvelle tentative (tentative %1) : %2</translation>
+        <translation>Échec de la récupération de la photo, nouvelle tentative (tentative %1)&#xa0;: %2</translation>
     </message>
     <message>
         <source>已取消拍照</source>
@@ -174,7 +236,7 @@
     </message>
     <message>
         <source>是否关闭当前拍照</source>
-        <translation>Fermer la photo actuelle ?</translation>
+        <translation>Fermer la photo actuelle&#xa0;?</translation>
     </message>
     <message>
         <source>照片已获取</source>
@@ -182,19 +244,19 @@
     </message>
     <message>
         <source>校准数据无效,请重新校准摄像头!</source>
-        <translation>La calibration n'est pas valide. Recalibrez la caméra !</translation>
+        <translation>La calibration n&apos;est pas valide. Recalibrez la caméra&#xa0;!</translation>
     </message>
     <message>
         <source>是否校准摄像头</source>
-        <translation>Calibrer la caméra ?</translation>
+        <translation>Calibrer la caméra&#xa0;?</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
+        <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
     </message>
     <message>
         <source>校准数据保存失败: %1</source>
-        <translation>Échec de l'enregistrement de la calibration : %1</translation>
+        <translation>Échec de l&apos;enregistrement de la calibration&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -205,7 +267,7 @@
     </message>
     <message>
         <source>找到的设备：</source>
-        <translation>Cartes trouvées :</translation>
+        <translation>Cartes trouvées&#xa0;:</translation>
     </message>
     <message>
         <source>重新搜索</source>
@@ -225,7 +287,7 @@
     </message>
     <message>
         <source>搜索完成!</source>
-        <translation>Recherche terminée !</translation>
+        <translation>Recherche terminée&#xa0;!</translation>
     </message>
     <message>
         <source>未找到设备</source>
@@ -233,7 +295,7 @@
     </message>
     <message>
         <source>请先选择设备</source>
-        <translation>Choisissez d'abord une carte</translation>
+        <translation>Choisissez d&apos;abord une carte</translation>
     </message>
 </context>
 <context>
@@ -279,7 +341,7 @@
     </message>
     <message>
         <source>页面名称：</source>
-        <translation>Nom de la page :</translation>
+        <translation>Nom de la page&#xa0;:</translation>
     </message>
     <message>
         <source>取消</source>
@@ -291,7 +353,7 @@
     </message>
     <message>
         <source>关闭页面将删除其中的所有图形,是否继续?</source>
-        <translation>Fermer la page supprime toutes ses formes. Continuer ?</translation>
+        <translation>Fermer la page supprime toutes ses formes. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>提示</source>
@@ -306,7 +368,7 @@
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation>Impossible d'ouvrir le fichier</translation>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
     </message>
     <message>
         <source>DXF 文件过大</source>
@@ -471,11 +533,11 @@
     </message>
     <message>
         <source>保存失败!</source>
-        <translation>Échec de l'enregistrement !</translation>
+        <translation>Échec de l&apos;enregistrement&#xa0;!</translation>
     </message>
     <message>
         <source>请在滚轴界面检查相关参数再运行!</source>
-        <translation>Vérifiez les paramètres dans la fenêtre Rotatif avant de lancer !</translation>
+        <translation>Vérifiez les paramètres dans la fenêtre Rotatif avant de lancer&#xa0;!</translation>
     </message>
     <message>
         <source>取消</source>
@@ -491,11 +553,11 @@
     </message>
     <message>
         <source>生成G代码失败!</source>
-        <translation>Échec de la génération du G-code !</translation>
+        <translation>Échec de la génération du G-code&#xa0;!</translation>
     </message>
     <message>
         <source>图层 %1: X %2..%3, Y %4..%5 mm</source>
-        <translation>Calque %1 : X %2..%3, Y %4..%5 mm</translation>
+        <translation>Calque %1&#xa0;: X %2..%3, Y %4..%5 mm</translation>
     </message>
     <message>
         <source>……还有 %1 个</source>
@@ -506,14 +568,18 @@
 %4
 
 是否继续?</source>
-        <translation>%1 forme(s) hors de la zone de travail (%2 × %3 mm) ; la machine risque de heurter ses butées ou de brûler hors du plateau :
+        <translation>%1 forme(s) hors de la zone de travail (%2 × %3 mm)&#xa0;; la machine risque de heurter ses butées ou de brûler hors du plateau&#xa0;:
 %4
 
-Continuer ?</translation>
+Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>继续</source>
         <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>当前位置未知,请先连接设备!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -528,7 +594,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>滚轴模式：</source>
-        <translation>Mode rotatif :</translation>
+        <translation>Mode rotatif&#xa0;:</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -544,7 +610,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>旋转轴：</source>
-        <translation>Axe de rotation :</translation>
+        <translation>Axe de rotation&#xa0;:</translation>
     </message>
     <message>
         <source>Y</source>
@@ -560,15 +626,15 @@ Continuer ?</translation>
     </message>
     <message>
         <source>周长(mm)：</source>
-        <translation>Circonférence (mm) :</translation>
+        <translation>Circonférence (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>直径(mm)：</source>
-        <translation>Diamètre (mm) :</translation>
+        <translation>Diamètre (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>每圈行程：</source>
-        <translation>Course par tour :</translation>
+        <translation>Course par tour&#xa0;:</translation>
     </message>
     <message>
         <source>取消</source>
@@ -587,11 +653,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>上一个文件仍在上传</source>
-        <translation>Le fichier précédent est encore en cours d'envoi</translation>
+        <translation>Le fichier précédent est encore en cours d&apos;envoi</translation>
     </message>
     <message>
         <source>无法读取文件: %1</source>
-        <translation>Impossible de lire le fichier : %1</translation>
+        <translation>Impossible de lire le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>上传已取消</source>
@@ -599,18 +665,18 @@ Continuer ?</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation>Échec de l'envoi : %1</translation>
+        <translation>Échec de l&apos;envoi&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ImportActions</name>
     <message>
         <source>请先选择一张位图!</source>
-        <translation>Sélectionnez d'abord une image bitmap !</translation>
+        <translation>Sélectionnez d&apos;abord une image bitmap&#xa0;!</translation>
     </message>
     <message>
         <source>位图中没有可描摹的轮廓!</source>
-        <translation>L'image bitmap n'a aucun contour à vectoriser !</translation>
+        <translation>L&apos;image bitmap n&apos;a aucun contour à vectoriser&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -621,7 +687,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation>Une fois les repères gravés, cliquez sur « Suivant » pour prendre une photo, puis cliquez dans l'ordre sur le centre des quatre croix</translation>
+        <translation>Une fois les repères gravés, cliquez sur «&#xa0;Suivant&#xa0;» pour prendre une photo, puis cliquez dans l&apos;ordre sur le centre des quatre croix</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -640,7 +706,7 @@ Continuer ?</translation>
     <name>Jk_dxf</name>
     <message>
         <source>无法打开文件</source>
-        <translation>Impossible d'ouvrir le fichier</translation>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
     </message>
     <message>
         <source>DXF 文件无法读取</source>
@@ -661,6 +727,10 @@ Continuer ?</translation>
         <source>滚轴参数无效</source>
         <translation>Paramètres du rotatif non valides</translation>
     </message>
+    <message>
+        <source>当前位置未知</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Jk_wen_zi2</name>
@@ -678,11 +748,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>字体：</source>
-        <translation>Police :</translation>
+        <translation>Police&#xa0;:</translation>
     </message>
     <message>
         <source>字号(mm)：</source>
-        <translation>Taille (mm) :</translation>
+        <translation>Taille (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>粗体</source>
@@ -694,11 +764,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>字间距(mm)：</source>
-        <translation>Espacement lettres (mm) :</translation>
+        <translation>Espacement lettres (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>行间距(mm)：</source>
-        <translation>Interligne (mm) :</translation>
+        <translation>Interligne (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>确定</source>
@@ -717,19 +787,19 @@ Continuer ?</translation>
     </message>
     <message>
         <source>预计时间：</source>
-        <translation>Durée estimée :</translation>
+        <translation>Durée estimée&#xa0;:</translation>
     </message>
     <message>
         <source>G代码行数：</source>
-        <translation>Lignes de G-code :</translation>
+        <translation>Lignes de G-code&#xa0;:</translation>
     </message>
     <message>
         <source>雕刻长度：</source>
-        <translation>Longueur gravée :</translation>
+        <translation>Longueur gravée&#xa0;:</translation>
     </message>
     <message>
         <source>空移长度：</source>
-        <translation>Déplacements à vide :</translation>
+        <translation>Déplacements à vide&#xa0;:</translation>
     </message>
     <message>
         <source>%1 秒</source>
@@ -783,7 +853,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>设备触发警告!</source>
-        <translation>La machine a déclenché une alarme !</translation>
+        <translation>La machine a déclenché une alarme&#xa0;!</translation>
     </message>
     <message>
         <source>警告</source>
@@ -791,11 +861,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation>Connectez d'abord la machine !</translation>
+        <translation>Connectez d&apos;abord la machine&#xa0;!</translation>
     </message>
     <message>
         <source>设备运行中禁用此功能!</source>
-        <translation>Indisponible pendant que la machine fonctionne !</translation>
+        <translation>Indisponible pendant que la machine fonctionne&#xa0;!</translation>
     </message>
     <message>
         <source>继续</source>
@@ -807,11 +877,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'adresse IP ne peut pas être vide !</translation>
+        <translation>L&apos;adresse IP ne peut pas être vide&#xa0;!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
+        <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
     </message>
     <message>
         <source>Open File</source>
@@ -823,19 +893,19 @@ Continuer ?</translation>
     </message>
     <message>
         <source>请选择或输入串口!</source>
-        <translation>Choisissez ou saisissez un port série !</translation>
+        <translation>Choisissez ou saisissez un port série&#xa0;!</translation>
     </message>
     <message>
         <source>无法打开串口 %1:%2</source>
-        <translation>Impossible d'ouvrir le port série %1 : %2</translation>
+        <translation>Impossible d&apos;ouvrir le port série %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>串口 %1 上的设备没有作为GRBL控制器应答!</source>
-        <translation>L'appareil sur le port série %1 n'a pas répondu comme un contrôleur GRBL !</translation>
+        <translation>L&apos;appareil sur le port série %1 n&apos;a pas répondu comme un contrôleur GRBL&#xa0;!</translation>
     </message>
     <message>
         <source>串口 %1 在连接时出错:%2</source>
-        <translation>Erreur du port série %1 lors de la connexion : %2</translation>
+        <translation>Erreur du port série %1 lors de la connexion&#xa0;: %2</translation>
     </message>
     <message>
         <source>已连接到串口 %1</source>
@@ -851,14 +921,18 @@ Continuer ?</translation>
     </message>
     <message>
         <source>WiFi连接意外断开!</source>
-        <translation>Liaison WiFi perdue !</translation>
+        <translation>Liaison WiFi perdue&#xa0;!</translation>
+    </message>
+    <message>
+        <source>当前位置未知,请等待设备上报位置!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>MachinePanel</name>
     <message>
         <source>COM:</source>
-        <translation>COM :</translation>
+        <translation>COM&#xa0;:</translation>
     </message>
     <message>
         <source>连接</source>
@@ -870,15 +944,15 @@ Continuer ?</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation>Aller à l'origine</translation>
+        <translation>Aller à l&apos;origine</translation>
     </message>
     <message>
         <source>设置原点</source>
-        <translation>Définir l'origine</translation>
+        <translation>Définir l&apos;origine</translation>
     </message>
     <message>
         <source>清除原点</source>
-        <translation>Effacer l'origine</translation>
+        <translation>Effacer l&apos;origine</translation>
     </message>
     <message>
         <source>移动到</source>
@@ -904,6 +978,66 @@ Continuer ?</translation>
         <source>点火</source>
         <translation>Tir test</translation>
     </message>
+    <message>
+        <source>起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>任务从哪里开始</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>绝对坐标</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前位置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用户原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图形的哪个点放到起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右下</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MessageBox</name>
@@ -924,7 +1058,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation>Mode :</translation>
+        <translation>Mode&#xa0;:</translation>
     </message>
     <message>
         <source>黑白</source>
@@ -959,23 +1093,23 @@ Continuer ?</translation>
     </message>
     <message>
         <source>X(mm)：</source>
-        <translation>X (mm) :</translation>
+        <translation>X (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>Y(mm)：</source>
-        <translation>Y (mm) :</translation>
+        <translation>Y (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>宽(mm)：</source>
-        <translation>Largeur (mm) :</translation>
+        <translation>Largeur (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>高(mm)：</source>
-        <translation>Hauteur (mm) :</translation>
+        <translation>Hauteur (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>旋转(°)：</source>
-        <translation>Rotation (°) :</translation>
+        <translation>Rotation (°)&#xa0;:</translation>
     </message>
     <message>
         <source>锁定比例</source>
@@ -994,11 +1128,141 @@ Continuer ?</translation>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation>L'image est trop grande pour être ouverte !</translation>
+        <translation>L&apos;image est trop grande pour être ouverte&#xa0;!</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation>Impossible de lire l'image !</translation>
+        <translation>Impossible de lire l&apos;image&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterLibrary</name>
+    <message>
+        <source>不是有效的JSON:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是参数库文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库版本不支持</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>第%1项的%2无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法写入文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法读取文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ParameterLibraryDialog</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称：</source>
+        <translation type="unfinished">Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从当前图层添加</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>应用到当前图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重命名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished">Supprimer</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库 (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先选择一个图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>已有同名预设,是否替换?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished">Information</translation>
+    </message>
+    <message>
+        <source>请先选择一个预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已有同名预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导入失败:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已添加%1个预设,替换%2个</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出失败:%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1025,14 +1289,33 @@ Continuer ?</translation>
     </message>
 </context>
 <context>
+    <name>ProductionController</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已存入参数库:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ProjectCommands</name>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
+        <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
     </message>
     <message>
         <source>没有数据，禁止保存!</source>
-        <translation>Rien à enregistrer !</translation>
+        <translation>Rien à enregistrer&#xa0;!</translation>
     </message>
     <message>
         <source>Save File</source>
@@ -1053,32 +1336,32 @@ Continuer ?</translation>
     <message>
         <source>保存失败: %1
 %2</source>
-        <translation>Échec de l'enregistrement : %1
+        <translation>Échec de l&apos;enregistrement&#xa0;: %1
 %2</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation>Le fichier n'existe pas : %1</translation>
+        <translation>Le fichier n&apos;existe pas&#xa0;: %1</translation>
     </message>
     <message>
         <source>不支持的文件格式: %1</source>
-        <translation>Type de fichier non pris en charge : %1</translation>
+        <translation>Type de fichier non pris en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>文件无法导入,里面没有可用的图形: %1</source>
-        <translation>Impossible d'importer le fichier ; il ne contient aucune forme utilisable : %1</translation>
+        <translation>Impossible d&apos;importer le fichier&#xa0;; il ne contient aucune forme utilisable&#xa0;: %1</translation>
     </message>
     <message>
         <source>无法打开文件: %1</source>
-        <translation>Impossible d'ouvrir le fichier : %1</translation>
+        <translation>Impossible d&apos;ouvrir le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>文件已损坏或不是项目文件,无法打开: %1</source>
-        <translation>Le fichier est endommagé ou n'est pas un fichier de projet et ne peut pas être ouvert : %1</translation>
+        <translation>Le fichier est endommagé ou n&apos;est pas un fichier de projet et ne peut pas être ouvert&#xa0;: %1</translation>
     </message>
     <message>
         <source>文件已损坏,只打开了其中完整的部分: %1</source>
-        <translation>Le fichier est endommagé ; seule sa partie intacte a été ouverte : %1</translation>
+        <translation>Le fichier est endommagé&#xa0;; seule sa partie intacte a été ouverte&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1104,7 +1387,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>设备：</source>
-        <translation>Carte :</translation>
+        <translation>Carte&#xa0;:</translation>
     </message>
     <message>
         <source>文件名</source>
@@ -1116,19 +1399,19 @@ Continuer ?</translation>
     </message>
     <message>
         <source>总容量：</source>
-        <translation>Total :</translation>
+        <translation>Total&#xa0;:</translation>
     </message>
     <message>
         <source>已用：</source>
-        <translation>Utilisé :</translation>
+        <translation>Utilisé&#xa0;:</translation>
     </message>
     <message>
         <source>可用：</source>
-        <translation>Libre :</translation>
+        <translation>Libre&#xa0;:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation>État :</translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -1168,7 +1451,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>文件 %1 已存在，是否覆盖?</source>
-        <translation>%1 est déjà sur la carte. Le remplacer ?</translation>
+        <translation>%1 est déjà sur la carte. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>提示</source>
@@ -1176,11 +1459,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>确定删除文件 %1 吗?</source>
-        <translation>Supprimer %1 ?</translation>
+        <translation>Supprimer %1&#xa0;?</translation>
     </message>
     <message>
         <source>确定运行文件 %1 吗?</source>
-        <translation>Lancer %1 ?</translation>
+        <translation>Lancer %1&#xa0;?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
@@ -1196,7 +1479,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>上传文件失败</source>
-        <translation>Échec de l'envoi du fichier</translation>
+        <translation>Échec de l&apos;envoi du fichier</translation>
     </message>
 </context>
 <context>
@@ -1219,11 +1502,101 @@ Continuer ?</translation>
     </message>
     <message>
         <source>无法打开文件</source>
-        <translation>Impossible d'ouvrir le fichier</translation>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
     </message>
     <message>
         <source>SVG 文件过大</source>
         <translation>Le fichier SVG est trop volumineux</translation>
+    </message>
+</context>
+<context>
+    <name>TestCard</name>
+    <message>
+        <source>行数和列数至少为1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率须在0到100之间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>速度至少为5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尺寸或次数无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TestCardDialog</name>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率(%)：</source>
+        <translation type="unfinished">Puissance (%)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>速度(mm/min)：</source>
+        <translation type="unfinished">Vitesse (mm/min)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>行 × 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>方块 / 间距：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式 / 次数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>线条</source>
+        <translation type="unfinished">Ligne</translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation type="unfinished">Remplissage</translation>
+    </message>
+    <message>
+        <source>生成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳方块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳 行 / 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料 / 厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>存入参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块超过%2个图层,将分成%3页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块,1页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入材料</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1288,31 +1661,31 @@ Continuer ?</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation>Mode :</translation>
+        <translation>Mode&#xa0;:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>填充方向(°)：</source>
-        <translation>Angle de remplissage (°) :</translation>
+        <translation>Angle de remplissage (°)&#xa0;:</translation>
     </message>
     <message>
         <source>填充间距(mm)：</source>
-        <translation>Pas de remplissage (mm) :</translation>
+        <translation>Pas de remplissage (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>过扫描mm)：</source>
-        <translation>Overscan (mm) :</translation>
+        <translation>Overscan (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation>Vitesse (mm/min) :</translation>
+        <translation>Vitesse (mm/min)&#xa0;:</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation>Puissance (%) :</translation>
+        <translation>Puissance (%)&#xa0;:</translation>
     </message>
     <message>
         <source>循环次数</source>
@@ -1347,19 +1720,19 @@ Continuer ?</translation>
     </message>
     <message>
         <source>模式：</source>
-        <translation>Mode :</translation>
+        <translation>Mode&#xa0;:</translation>
     </message>
     <message>
         <source>网络名称：</source>
-        <translation>Nom du réseau :</translation>
+        <translation>Nom du réseau&#xa0;:</translation>
     </message>
     <message>
         <source>状态：</source>
-        <translation>État :</translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>IP地址：</source>
-        <translation>Adresse IP :</translation>
+        <translation>Adresse IP&#xa0;:</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -1371,11 +1744,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>WiFi名称：</source>
-        <translation>Nom du WiFi :</translation>
+        <translation>Nom du WiFi&#xa0;:</translation>
     </message>
     <message>
         <source>WiFi密码：</source>
-        <translation>Mot de passe WiFi :</translation>
+        <translation>Mot de passe WiFi&#xa0;:</translation>
     </message>
     <message>
         <source>显示密码</source>
@@ -1387,7 +1760,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>设备热点(AP模式)</source>
-        <translation>Point d'accès de la carte (mode AP)</translation>
+        <translation>Point d&apos;accès de la carte (mode AP)</translation>
     </message>
     <message>
         <source>设备地址 192.168.0.1</source>
@@ -1407,11 +1780,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>AP模式(设备热点)</source>
-        <translation>Mode AP (point d'accès)</translation>
+        <translation>Mode AP (point d&apos;accès)</translation>
     </message>
     <message>
         <source>密码或账号不能为空!</source>
-        <translation>Le nom du réseau et le mot de passe ne peuvent pas être vides !</translation>
+        <translation>Le nom du réseau et le mot de passe ne peuvent pas être vides&#xa0;!</translation>
     </message>
     <message>
         <source>密码长度不匹配</source>
@@ -1419,7 +1792,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>账号或密码不能包含!,？,~,$符号</source>
-        <translation>Le nom et le mot de passe ne peuvent pas contenir !, ?, ~ ou $</translation>
+        <translation>Le nom et le mot de passe ne peuvent pas contenir&#xa0;!,&#xa0;?, ~ ou $</translation>
     </message>
     <message>
         <source>目前仅支持英文,数字,符号输入</source>
@@ -1458,7 +1831,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>旋转角度：</source>
-        <translation>Angle de rotation :</translation>
+        <translation>Angle de rotation&#xa0;:</translation>
     </message>
     <message>
         <source>语言</source>
@@ -1470,15 +1843,15 @@ Continuer ?</translation>
     </message>
     <message>
         <source>没有可预览的图形!</source>
-        <translation>Rien à prévisualiser !</translation>
+        <translation>Rien à prévisualiser&#xa0;!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation>Connectez d'abord la machine !</translation>
+        <translation>Connectez d&apos;abord la machine&#xa0;!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
-        <translation>La machine est en cours de gravure ; indisponible pour le moment !</translation>
+        <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
     </message>
     <message>
         <source>新建页面</source>
@@ -1526,7 +1899,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>创作未保存,是否立即退出</source>
-        <translation>Le projet n'est pas enregistré. Quitter maintenant ?</translation>
+        <translation>Le projet n&apos;est pas enregistré. Quitter maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>提示</source>
@@ -1541,23 +1914,23 @@ Continuer ?</translation>
     <name>WifiLinkController</name>
     <message>
         <source>请先断开串口连接!</source>
-        <translation>Déconnectez d'abord le port série !</translation>
+        <translation>Déconnectez d&apos;abord le port série&#xa0;!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'adresse IP ne peut pas être vide !</translation>
+        <translation>L&apos;adresse IP ne peut pas être vide&#xa0;!</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
-        <translation>Port non valide : %1</translation>
+        <translation>Port non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation>Impossible de se connecter en WiFi à %1:%2. Vérifiez l'adresse et l'alimentation de la carte !</translation>
+        <translation>Impossible de se connecter en WiFi à %1:%2. Vérifiez l&apos;adresse et l&apos;alimentation de la carte&#xa0;!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation>Connectez d'abord la machine !</translation>
+        <translation>Connectez d&apos;abord la machine&#xa0;!</translation>
     </message>
     <message>
         <source>上传</source>
@@ -1573,11 +1946,11 @@ Continuer ?</translation>
     </message>
     <message>
         <source>正在上传 %1: %2 / %3 MB</source>
-        <translation>Envoi de %1 : %2 / %3 Mo</translation>
+        <translation>Envoi de %1&#xa0;: %2 / %3 Mo</translation>
     </message>
     <message>
         <source>上传失败: %1</source>
-        <translation>Échec de l'envoi : %1</translation>
+        <translation>Échec de l&apos;envoi&#xa0;: %1</translation>
     </message>
     <message>
         <source>已连接</source>
@@ -1600,11 +1973,34 @@ Continuer ?</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
-        <translation>Connectez d'abord la machine !</translation>
+        <translation>Connectez d&apos;abord la machine&#xa0;!</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'adresse IP ne peut pas être vide !</translation>
+        <translation>L&apos;adresse IP ne peut pas être vide&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>lumitra::Barcode</name>
+    <message>
+        <source>尺寸必须大于 0!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入内容!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条码库无法使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EAN-13 需要 12 或 13 位数字!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPC-A 需要 11 或 12 位数字!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1619,7 +2015,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation>Langue modifiée. Veuillez redémarrer l'application !</translation>
+        <translation>Langue modifiée. Veuillez redémarrer l&apos;application&#xa0;!</translation>
     </message>
     <message>
         <source>提示</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>工作区居中</source>
-        <translation>Centra nell'area di lavoro</translation>
+        <translation>Centra nell&apos;area di lavoro</translation>
     </message>
     <message>
         <source>水平等距</source>
@@ -101,6 +101,68 @@
     <message>
         <source>取消</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>BarcodeActions</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BarcodeDialog</name>
+    <message>
+        <source>二维码/条形码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QR 码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>内容：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宽度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条高：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静区：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> 模块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>纠错等级：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示文字</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+    <message>
+        <source>无法生成条码：%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -506,7 +568,7 @@
 %4
 
 是否继续?</source>
-        <translation>%1 forme sono fuori dall'area di lavoro (%2 × %3 mm); la macchina potrebbe urtare i finecorsa o bruciare oltre il piano:
+        <translation>%1 forme sono fuori dall&apos;area di lavoro (%2 × %3 mm); la macchina potrebbe urtare i finecorsa o bruciare oltre il piano:
 %4
 
 Continuare?</translation>
@@ -514,6 +576,10 @@ Continuare?</translation>
     <message>
         <source>继续</source>
         <translation>Continua</translation>
+    </message>
+    <message>
+        <source>当前位置未知,请先连接设备!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -621,7 +687,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>雕刻完成后点击&quot;下一步&quot;拍照,然后依次点击照片上四个十字的中心</source>
-        <translation>Quando i segni sono incisi, premi "Avanti" per scattare una foto, poi fai clic in ordine sui centri delle quattro croci</translation>
+        <translation>Quando i segni sono incisi, premi &quot;Avanti&quot; per scattare una foto, poi fai clic in ordine sui centri delle quattro croci</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -660,6 +726,10 @@ Continuare?</translation>
     <message>
         <source>滚轴参数无效</source>
         <translation>Parametri rotativo non validi</translation>
+    </message>
+    <message>
+        <source>当前位置未知</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -807,7 +877,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'indirizzo IP non può essere vuoto!</translation>
+        <translation>L&apos;indirizzo IP non può essere vuoto!</translation>
     </message>
     <message>
         <source>设备雕刻中,暂时停止使用!</source>
@@ -853,6 +923,10 @@ Continuare?</translation>
         <source>WiFi连接意外断开!</source>
         <translation>Connessione WiFi persa!</translation>
     </message>
+    <message>
+        <source>当前位置未知,请等待设备上报位置!</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MachinePanel</name>
@@ -870,7 +944,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>回原点</source>
-        <translation>Vai all'origine</translation>
+        <translation>Vai all&apos;origine</translation>
     </message>
     <message>
         <source>设置原点</source>
@@ -903,6 +977,66 @@ Continuare?</translation>
     <message>
         <source>点火</source>
         <translation>Test laser</translation>
+    </message>
+    <message>
+        <source>起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>任务从哪里开始</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>绝对坐标</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前位置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用户原点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图形的哪个点放到起点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右下</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -994,11 +1128,141 @@ Continuare?</translation>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
-        <translation>L'immagine è troppo grande per essere aperta!</translation>
+        <translation>L&apos;immagine è troppo grande per essere aperta!</translation>
     </message>
     <message>
         <source>图片无法读取!</source>
-        <translation>Impossibile leggere l'immagine!</translation>
+        <translation>Impossibile leggere l&apos;immagine!</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterLibrary</name>
+    <message>
+        <source>不是有效的JSON:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是参数库文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库版本不支持</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>第%1项的%2无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法写入文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法读取文件:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ParameterLibraryDialog</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称：</source>
+        <translation type="unfinished">Nome:</translation>
+    </message>
+    <message>
+        <source>厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从当前图层添加</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>应用到当前图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重命名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished">Elimina</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库 (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先选择一个图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>已有同名预设,是否替换?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished">Avviso</translation>
+    </message>
+    <message>
+        <source>请先选择一个预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已有同名预设</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导入失败:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已添加%1个预设,替换%2个</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导出失败:%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1022,6 +1286,25 @@ Continuare?</translation>
     <message>
         <source>取消</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ProductionController</name>
+    <message>
+        <source>参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>参数库无法读取:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已存入参数库:%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1184,7 +1467,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>读取SD卡文件列表失败</source>
-        <translation>Lettura dell'elenco file della scheda non riuscita</translation>
+        <translation>Lettura dell&apos;elenco file della scheda non riuscita</translation>
     </message>
     <message>
         <source>删除文件失败</source>
@@ -1224,6 +1507,96 @@ Continuare?</translation>
     <message>
         <source>SVG 文件过大</source>
         <translation>Il file SVG è troppo grande</translation>
+    </message>
+</context>
+<context>
+    <name>TestCard</name>
+    <message>
+        <source>行数和列数至少为1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率须在0到100之间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>速度至少为5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尺寸或次数无效</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TestCardDialog</name>
+    <message>
+        <source>材料测试卡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率(%)：</source>
+        <translation type="unfinished">Potenza (%):</translation>
+    </message>
+    <message>
+        <source>速度(mm/min)：</source>
+        <translation type="unfinished">Velocità (mm/min):</translation>
+    </message>
+    <message>
+        <source>行 × 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>方块 / 间距：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式 / 次数：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>线条</source>
+        <translation type="unfinished">Linea</translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation type="unfinished">Riempimento</translation>
+    </message>
+    <message>
+        <source>生成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳方块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最佳 行 / 列：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料 / 厚度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>存入参数库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块超过%2个图层,将分成%3页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1个方块,1页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入材料</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1545,7 +1918,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'indirizzo IP non può essere vuoto!</translation>
+        <translation>L&apos;indirizzo IP non può essere vuoto!</translation>
     </message>
     <message>
         <source>端口号无效: %1</source>
@@ -1553,7 +1926,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>无法通过WiFi连接到 %1:%2,请检查地址和设备电源!</source>
-        <translation>Impossibile connettersi via WiFi a %1:%2. Controlla l'indirizzo e che la scheda sia alimentata!</translation>
+        <translation>Impossibile connettersi via WiFi a %1:%2. Controlla l&apos;indirizzo e che la scheda sia alimentata!</translation>
     </message>
     <message>
         <source>请先连接设备!</source>
@@ -1604,7 +1977,30 @@ Continuare?</translation>
     </message>
     <message>
         <source>IP不能为空!</source>
-        <translation>L'indirizzo IP non può essere vuoto!</translation>
+        <translation>L&apos;indirizzo IP non può essere vuoto!</translation>
+    </message>
+</context>
+<context>
+    <name>lumitra::Barcode</name>
+    <message>
+        <source>尺寸必须大于 0!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入内容!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>条码库无法使用!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EAN-13 需要 12 或 13 位数字!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPC-A 需要 11 或 12 位数字!</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1619,7 +2015,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>语言修改成功,请重启软件!</source>
-        <translation>Lingua cambiata. Riavvia l'applicazione!</translation>
+        <translation>Lingua cambiata. Riavvia l&apos;applicazione!</translation>
     </message>
     <message>
         <source>提示</source>
