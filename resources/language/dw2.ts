@@ -107,62 +107,62 @@
     <name>BarcodeActions</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code/Barcode</translation>
     </message>
 </context>
 <context>
     <name>BarcodeDialog</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code/Barcode</translation>
     </message>
     <message>
         <source>类型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ:</translation>
     </message>
     <message>
         <source>QR 码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>内容：</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt:</translation>
     </message>
     <message>
         <source>宽度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite:</translation>
     </message>
     <message>
         <source>条高：</source>
-        <translation type="unfinished"></translation>
+        <translation>Balkenhöhe:</translation>
     </message>
     <message>
         <source>静区：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhezone:</translation>
     </message>
     <message>
         <source> 模块</source>
-        <translation type="unfinished"></translation>
+        <translation> Module</translation>
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerkorrektur:</translation>
     </message>
     <message>
         <source>显示文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text anzeigen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>无法生成条码：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Code kann nicht erzeugt werden: %1</translation>
     </message>
 </context>
 <context>
@@ -579,7 +579,7 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopfposition ist unbekannt. Bitte zuerst die Maschine verbinden!</translation>
     </message>
 </context>
 <context>
@@ -729,7 +729,7 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>当前位置未知</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopfposition ist unbekannt</translation>
     </message>
 </context>
 <context>
@@ -925,7 +925,7 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>当前位置未知,请等待设备上报位置!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopfposition ist unbekannt. Bitte warten, bis die Maschine sie meldet!</translation>
     </message>
 </context>
 <context>
@@ -980,63 +980,63 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Startpunkt</translation>
     </message>
     <message>
         <source>任务从哪里开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Auftrag beginnt</translation>
     </message>
     <message>
         <source>绝对坐标</source>
-        <translation type="unfinished"></translation>
+        <translation>Absolut</translation>
     </message>
     <message>
         <source>当前位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Position</translation>
     </message>
     <message>
         <source>用户原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer-Nullpunkt</translation>
     </message>
     <message>
         <source>图形的哪个点放到起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher Punkt des Designs auf den Startpunkt kommt</translation>
     </message>
     <message>
         <source>左上</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>上中</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>右上</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>左中</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>右中</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>左下</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>下中</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>右下</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
 </context>
 <context>
@@ -1139,130 +1139,130 @@ Fortfahren?</translation>
     <name>ParameterLibrary</name>
     <message>
         <source>不是有效的JSON:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein gültiges JSON: %1</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Parameterbibliotheksdatei</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Bibliotheksversion wird nicht unterstützt</translation>
     </message>
     <message>
         <source>第%1项的%2无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag %1: %2 ungültig</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht gelesen werden: %1</translation>
     </message>
 </context>
 <context>
     <name>ParameterLibraryDialog</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameterbibliothek</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished"></translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished">Name:</translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicke:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>从当前图层添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Ebene hinzufügen</translation>
     </message>
     <message>
         <source>应用到当前图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Ebene anwenden</translation>
     </message>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished">Löschen</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>参数库 (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameterbibliothek (*.json)</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Parameterbibliothek kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst eine Ebene wählen</translation>
     </message>
     <message>
         <source>请输入名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte einen Namen eingeben</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>已有同名预设,是否替换?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Voreinstellung mit diesem Namen existiert bereits. Ersetzen?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Hinweis</translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst eine Voreinstellung wählen</translation>
     </message>
     <message>
         <source>已有同名预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Voreinstellung mit diesem Namen existiert bereits</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Import fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Voreinstellungen hinzugefügt, %2 ersetzt</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Export fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -1292,19 +1292,19 @@ Fortfahren?</translation>
     <name>ProductionController</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameterbibliothek</translation>
     </message>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Materialtestkarte</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Parameterbibliothek kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>已存入参数库:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Parameterbibliothek gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -1513,90 +1513,90 @@ Fortfahren?</translation>
     <name>TestCard</name>
     <message>
         <source>行数和列数至少为1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen und Spalten müssen mindestens 1 sein</translation>
     </message>
     <message>
         <source>功率须在0到100之间</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung muss zwischen 0 und 100 liegen</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Geschwindigkeit muss mindestens 5 sein</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Größe oder Durchgänge</translation>
     </message>
 </context>
 <context>
     <name>TestCardDialog</name>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Materialtestkarte</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished">Leistung (%):</translation>
+        <translation>Leistung (%):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished">Geschw. (mm/min):</translation>
+        <translation>Geschw. (mm/min):</translation>
     </message>
     <message>
         <source>行 × 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen × Spalten:</translation>
     </message>
     <message>
         <source>方块 / 间距：</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrat / Abstand:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>模式 / 次数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus / Durchgänge:</translation>
     </message>
     <message>
         <source>线条</source>
-        <translation type="unfinished">Linie</translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished">Füllen</translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>生成</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugen</translation>
     </message>
     <message>
         <source>最佳方块</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestes Quadrat</translation>
     </message>
     <message>
         <source>最佳 行 / 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Zeile / Spalte:</translation>
     </message>
     <message>
         <source>材料 / 厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Material / Dicke:</translation>
     </message>
     <message>
         <source>存入参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>In Bibliothek speichern</translation>
     </message>
     <message>
         <source>%1个方块超过%2个图层,将分成%3页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Quadrate brauchen mehr als %2 Ebenen: %3 Seiten</translation>
     </message>
     <message>
         <source>%1个方块,1页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Quadrate, 1 Seite</translation>
     </message>
     <message>
         <source>请输入材料</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte das Material eingeben</translation>
     </message>
 </context>
 <context>
@@ -1984,23 +1984,23 @@ Fortfahren?</translation>
     <name>lumitra::Barcode</name>
     <message>
         <source>尺寸必须大于 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe muss größer als 0 sein!</translation>
     </message>
     <message>
         <source>请输入内容!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte den Inhalt eingeben!</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Barcode-Bibliothek ist nicht verfügbar!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>EAN-13 braucht 12 oder 13 Ziffern!</translation>
     </message>
     <message>
         <source>UPC-A 需要 11 或 12 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>UPC-A braucht 11 oder 12 Ziffern!</translation>
     </message>
 </context>
 <context>

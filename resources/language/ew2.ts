@@ -107,62 +107,62 @@
     <name>BarcodeActions</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код / штрихкод</translation>
     </message>
 </context>
 <context>
     <name>BarcodeDialog</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код / штрихкод</translation>
     </message>
     <message>
         <source>类型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип:</translation>
     </message>
     <message>
         <source>QR 码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код</translation>
     </message>
     <message>
         <source>内容：</source>
-        <translation type="unfinished"></translation>
+        <translation>Содержимое:</translation>
     </message>
     <message>
         <source>宽度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ширина:</translation>
     </message>
     <message>
         <source>条高：</source>
-        <translation type="unfinished"></translation>
+        <translation>Высота штрихов:</translation>
     </message>
     <message>
         <source>静区：</source>
-        <translation type="unfinished"></translation>
+        <translation>Свободная зона:</translation>
     </message>
     <message>
         <source> 模块</source>
-        <translation type="unfinished"></translation>
+        <translation> модулей</translation>
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation type="unfinished"></translation>
+        <translation>Коррекция ошибок:</translation>
     </message>
     <message>
         <source>显示文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать текст</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">ОК</translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>无法生成条码：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать код: %1</translation>
     </message>
 </context>
 <context>
@@ -579,7 +579,7 @@
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>Положение головы неизвестно. Сначала подключите станок!</translation>
     </message>
 </context>
 <context>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>当前位置未知</source>
-        <translation type="unfinished"></translation>
+        <translation>Положение головы неизвестно</translation>
     </message>
 </context>
 <context>
@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>当前位置未知,请等待设备上报位置!</source>
-        <translation type="unfinished"></translation>
+        <translation>Положение головы неизвестно. Дождитесь, пока станок его сообщит!</translation>
     </message>
 </context>
 <context>
@@ -980,63 +980,63 @@
     </message>
     <message>
         <source>起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Начало</translation>
     </message>
     <message>
         <source>任务从哪里开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Откуда начинается задание</translation>
     </message>
     <message>
         <source>绝对坐标</source>
-        <translation type="unfinished"></translation>
+        <translation>Абсолютные</translation>
     </message>
     <message>
         <source>当前位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Текущая позиция</translation>
     </message>
     <message>
         <source>用户原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Заданный ноль</translation>
     </message>
     <message>
         <source>图形的哪个点放到起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Какая точка рисунка ставится в начало</translation>
     </message>
     <message>
         <source>左上</source>
-        <translation type="unfinished"></translation>
+        <translation>Сверху слева</translation>
     </message>
     <message>
         <source>上中</source>
-        <translation type="unfinished"></translation>
+        <translation>Сверху</translation>
     </message>
     <message>
         <source>右上</source>
-        <translation type="unfinished"></translation>
+        <translation>Сверху справа</translation>
     </message>
     <message>
         <source>左中</source>
-        <translation type="unfinished"></translation>
+        <translation>Слева</translation>
     </message>
     <message>
         <source>中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Центр</translation>
     </message>
     <message>
         <source>右中</source>
-        <translation type="unfinished"></translation>
+        <translation>Справа</translation>
     </message>
     <message>
         <source>左下</source>
-        <translation type="unfinished"></translation>
+        <translation>Снизу слева</translation>
     </message>
     <message>
         <source>下中</source>
-        <translation type="unfinished"></translation>
+        <translation>Снизу</translation>
     </message>
     <message>
         <source>右下</source>
-        <translation type="unfinished"></translation>
+        <translation>Снизу справа</translation>
     </message>
 </context>
 <context>
@@ -1139,130 +1139,130 @@
     <name>ParameterLibrary</name>
     <message>
         <source>不是有效的JSON:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Некорректный JSON: %1</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Это не файл библиотеки параметров</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия библиотеки не поддерживается</translation>
     </message>
     <message>
         <source>第%1项的%2无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись %1: неверное значение %2</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать файл: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать файл: %1</translation>
     </message>
 </context>
 <context>
     <name>ParameterLibraryDialog</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Библиотека параметров</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished"></translation>
+        <translation>Материал:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished">Имя:</translation>
+        <translation>Имя:</translation>
     </message>
     <message>
         <source>厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Толщина:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> мм</translation>
     </message>
     <message>
         <source>从当前图层添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить из слоя</translation>
     </message>
     <message>
         <source>应用到当前图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Применить к слою</translation>
     </message>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименовать</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>Импорт</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>Экспорт</translation>
     </message>
     <message>
         <source>参数库 (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Библиотека параметров (*.json)</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать библиотеку параметров: %1</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Все</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала выберите слой</translation>
     </message>
     <message>
         <source>请输入名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите имя</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">ОК</translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>已有同名预设,是否替换?</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет с таким именем уже есть. Заменить?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Информация</translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала выберите пресет</translation>
     </message>
     <message>
         <source>已有同名预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет с таким именем уже есть</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка импорта: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавлено пресетов: %1, заменено: %2</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка экспорта: %1</translation>
     </message>
 </context>
 <context>
@@ -1292,19 +1292,19 @@
     <name>ProductionController</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Библиотека параметров</translation>
     </message>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест-карта материала</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать библиотеку параметров: %1</translation>
     </message>
     <message>
         <source>已存入参数库:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранено в библиотеку параметров: %1</translation>
     </message>
 </context>
 <context>
@@ -1513,90 +1513,90 @@
     <name>TestCard</name>
     <message>
         <source>行数和列数至少为1</source>
-        <translation type="unfinished"></translation>
+        <translation>Строк и столбцов должно быть не меньше 1</translation>
     </message>
     <message>
         <source>功率须在0到100之间</source>
-        <translation type="unfinished"></translation>
+        <translation>Мощность должна быть от 0 до 100</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation type="unfinished"></translation>
+        <translation>Скорость должна быть не меньше 5</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный размер или число проходов</translation>
     </message>
 </context>
 <context>
     <name>TestCardDialog</name>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест-карта материала</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished">Мощность (%):</translation>
+        <translation>Мощность (%):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished">Скорость (мм/мин):</translation>
+        <translation>Скорость (мм/мин):</translation>
     </message>
     <message>
         <source>行 × 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Строки × столбцы:</translation>
     </message>
     <message>
         <source>方块 / 间距：</source>
-        <translation type="unfinished"></translation>
+        <translation>Квадрат / зазор:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> мм</translation>
     </message>
     <message>
         <source>模式 / 次数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим / проходы:</translation>
     </message>
     <message>
         <source>线条</source>
-        <translation type="unfinished">Линия</translation>
+        <translation>Линия</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished">Заливка</translation>
+        <translation>Заливка</translation>
     </message>
     <message>
         <source>生成</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать</translation>
     </message>
     <message>
         <source>最佳方块</source>
-        <translation type="unfinished"></translation>
+        <translation>Лучший квадрат</translation>
     </message>
     <message>
         <source>最佳 行 / 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Лучшие строка / столбец:</translation>
     </message>
     <message>
         <source>材料 / 厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Материал / толщина:</translation>
     </message>
     <message>
         <source>存入参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>В библиотеку</translation>
     </message>
     <message>
         <source>%1个方块超过%2个图层,将分成%3页</source>
-        <translation type="unfinished"></translation>
+        <translation>Квадратов: %1 (больше %2 слоёв), страниц: %3</translation>
     </message>
     <message>
         <source>%1个方块,1页</source>
-        <translation type="unfinished"></translation>
+        <translation>Квадратов: %1, 1 страница</translation>
     </message>
     <message>
         <source>请输入材料</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите материал</translation>
     </message>
 </context>
 <context>
@@ -1984,23 +1984,23 @@
     <name>lumitra::Barcode</name>
     <message>
         <source>尺寸必须大于 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер должен быть больше 0!</translation>
     </message>
     <message>
         <source>请输入内容!</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите содержимое!</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>Библиотека штрихкодов недоступна!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>Для EAN-13 нужно 12 или 13 цифр!</translation>
     </message>
     <message>
         <source>UPC-A 需要 11 或 12 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>Для UPC-A нужно 11 или 12 цифр!</translation>
     </message>
 </context>
 <context>

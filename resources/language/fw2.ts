@@ -107,62 +107,62 @@
     <name>BarcodeActions</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code / code-barres</translation>
     </message>
 </context>
 <context>
     <name>BarcodeDialog</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code / code-barres</translation>
     </message>
     <message>
         <source>类型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Type&#xa0;:</translation>
     </message>
     <message>
         <source>QR 码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code</translation>
     </message>
     <message>
         <source>内容：</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenu&#xa0;:</translation>
     </message>
     <message>
         <source>宽度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>条高：</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur des barres&#xa0;:</translation>
     </message>
     <message>
         <source>静区：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de silence&#xa0;:</translation>
     </message>
     <message>
         <source> 模块</source>
-        <translation type="unfinished"></translation>
+        <translation> modules</translation>
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation type="unfinished"></translation>
+        <translation>Correction d'erreur&#xa0;:</translation>
     </message>
     <message>
         <source>显示文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le texte</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>无法生成条码：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de générer le code&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -579,7 +579,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>La position de la tête est inconnue. Connectez d'abord la machine&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -729,7 +729,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>当前位置未知</source>
-        <translation type="unfinished"></translation>
+        <translation>La position de la tête est inconnue</translation>
     </message>
 </context>
 <context>
@@ -925,7 +925,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>当前位置未知,请等待设备上报位置!</source>
-        <translation type="unfinished"></translation>
+        <translation>La position de la tête est inconnue. Attendez que la machine la signale&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -980,63 +980,63 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>任务从哪里开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Où le travail commence</translation>
     </message>
     <message>
         <source>绝对坐标</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordonnées absolues</translation>
     </message>
     <message>
         <source>当前位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Position actuelle</translation>
     </message>
     <message>
         <source>用户原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine utilisateur</translation>
     </message>
     <message>
         <source>图形的哪个点放到起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Quel point du dessin est placé au départ</translation>
     </message>
     <message>
         <source>左上</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à gauche</translation>
     </message>
     <message>
         <source>上中</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut</translation>
     </message>
     <message>
         <source>右上</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à droite</translation>
     </message>
     <message>
         <source>左中</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Centre</translation>
     </message>
     <message>
         <source>右中</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>左下</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à gauche</translation>
     </message>
     <message>
         <source>下中</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas</translation>
     </message>
     <message>
         <source>右下</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à droite</translation>
     </message>
 </context>
 <context>
@@ -1139,130 +1139,130 @@ Continuer&#xa0;?</translation>
     <name>ParameterLibrary</name>
     <message>
         <source>不是有效的JSON:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n'est pas un fichier de bibliothèque de paramètres</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
-        <translation type="unfinished"></translation>
+        <translation>Version de bibliothèque non prise en charge</translation>
     </message>
     <message>
         <source>第%1项的%2无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée %1&#xa0;: %2 non valide</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'écrire le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ParameterLibraryDialog</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque de paramètres</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished"></translation>
+        <translation>Matériau&#xa0;:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished">Nom&#xa0;:</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur&#xa0;:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>从当前图层添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter depuis le calque</translation>
     </message>
     <message>
         <source>应用到当前图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer au calque</translation>
     </message>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished">Supprimer</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>参数库 (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque de paramètres (*.json)</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la bibliothèque de paramètres&#xa0;: %1</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d'abord un calque</translation>
     </message>
     <message>
         <source>请输入名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nom</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>已有同名预设,是否替换?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage de ce nom existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d'abord un préréglage</translation>
     </message>
     <message>
         <source>已有同名预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage de ce nom existe déjà</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'importation&#xa0;: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 préréglage(s) ajouté(s), %2 remplacé(s)</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l'exportation&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1292,19 +1292,19 @@ Continuer&#xa0;?</translation>
     <name>ProductionController</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque de paramètres</translation>
     </message>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte de test matériau</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la bibliothèque de paramètres&#xa0;: %1</translation>
     </message>
     <message>
         <source>已存入参数库:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré dans la bibliothèque de paramètres&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1513,90 +1513,90 @@ Continuer&#xa0;?</translation>
     <name>TestCard</name>
     <message>
         <source>行数和列数至少为1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut au moins 1 ligne et 1 colonne</translation>
     </message>
     <message>
         <source>功率须在0到100之间</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance doit être comprise entre 0 et 100</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation type="unfinished"></translation>
+        <translation>La vitesse doit être d'au moins 5</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille ou nombre de passes non valide</translation>
     </message>
 </context>
 <context>
     <name>TestCardDialog</name>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte de test matériau</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished">Puissance (%)&#xa0;:</translation>
+        <translation>Puissance (%)&#xa0;:</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished">Vitesse (mm/min)&#xa0;:</translation>
+        <translation>Vitesse (mm/min)&#xa0;:</translation>
     </message>
     <message>
         <source>行 × 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes × colonnes&#xa0;:</translation>
     </message>
     <message>
         <source>方块 / 间距：</source>
-        <translation type="unfinished"></translation>
+        <translation>Carré / espacement&#xa0;:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>模式 / 次数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode / passes&#xa0;:</translation>
     </message>
     <message>
         <source>线条</source>
-        <translation type="unfinished">Ligne</translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished">Remplissage</translation>
+        <translation>Remplissage</translation>
     </message>
     <message>
         <source>生成</source>
-        <translation type="unfinished"></translation>
+        <translation>Générer</translation>
     </message>
     <message>
         <source>最佳方块</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleur carré</translation>
     </message>
     <message>
         <source>最佳 行 / 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleure ligne / colonne&#xa0;:</translation>
     </message>
     <message>
         <source>材料 / 厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Matériau / épaisseur&#xa0;:</translation>
     </message>
     <message>
         <source>存入参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à la bibliothèque</translation>
     </message>
     <message>
         <source>%1个方块超过%2个图层,将分成%3页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 carrés dépassent %2 calques&#xa0;: %3 pages</translation>
     </message>
     <message>
         <source>%1个方块,1页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 carrés, 1 page</translation>
     </message>
     <message>
         <source>请输入材料</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le matériau</translation>
     </message>
 </context>
 <context>
@@ -1984,23 +1984,23 @@ Continuer&#xa0;?</translation>
     <name>lumitra::Barcode</name>
     <message>
         <source>尺寸必须大于 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille doit être supérieure à 0&#xa0;!</translation>
     </message>
     <message>
         <source>请输入内容!</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le contenu&#xa0;!</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>La bibliothèque de codes-barres n'est pas disponible&#xa0;!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>EAN-13 nécessite 12 ou 13 chiffres&#xa0;!</translation>
     </message>
     <message>
         <source>UPC-A 需要 11 或 12 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>UPC-A nécessite 11 ou 12 chiffres&#xa0;!</translation>
     </message>
 </context>
 <context>

@@ -107,62 +107,62 @@
     <name>BarcodeActions</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR 코드 / 바코드</translation>
     </message>
 </context>
 <context>
     <name>BarcodeDialog</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR 코드 / 바코드</translation>
     </message>
     <message>
         <source>类型：</source>
-        <translation type="unfinished"></translation>
+        <translation>유형:</translation>
     </message>
     <message>
         <source>QR 码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR 코드</translation>
     </message>
     <message>
         <source>内容：</source>
-        <translation type="unfinished"></translation>
+        <translation>내용:</translation>
     </message>
     <message>
         <source>宽度：</source>
-        <translation type="unfinished"></translation>
+        <translation>너비:</translation>
     </message>
     <message>
         <source>条高：</source>
-        <translation type="unfinished"></translation>
+        <translation>바 높이:</translation>
     </message>
     <message>
         <source>静区：</source>
-        <translation type="unfinished"></translation>
+        <translation>여백:</translation>
     </message>
     <message>
         <source> 模块</source>
-        <translation type="unfinished"></translation>
+        <translation> 모듈</translation>
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation type="unfinished"></translation>
+        <translation>오류 정정:</translation>
     </message>
     <message>
         <source>显示文字</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트 표시</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">확인</translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>无法生成条码：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>코드를 생성할 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -579,7 +579,7 @@
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>헤드 위치를 알 수 없습니다. 먼저 기기를 연결하세요!</translation>
     </message>
 </context>
 <context>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>当前位置未知</source>
-        <translation type="unfinished"></translation>
+        <translation>헤드 위치를 알 수 없습니다</translation>
     </message>
 </context>
 <context>
@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>当前位置未知,请等待设备上报位置!</source>
-        <translation type="unfinished"></translation>
+        <translation>헤드 위치를 알 수 없습니다. 기기가 위치를 보고할 때까지 기다리세요!</translation>
     </message>
 </context>
 <context>
@@ -980,63 +980,63 @@
     </message>
     <message>
         <source>起点</source>
-        <translation type="unfinished"></translation>
+        <translation>시작점</translation>
     </message>
     <message>
         <source>任务从哪里开始</source>
-        <translation type="unfinished"></translation>
+        <translation>작업을 시작할 위치</translation>
     </message>
     <message>
         <source>绝对坐标</source>
-        <translation type="unfinished"></translation>
+        <translation>절대 좌표</translation>
     </message>
     <message>
         <source>当前位置</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 위치</translation>
     </message>
     <message>
         <source>用户原点</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 원점</translation>
     </message>
     <message>
         <source>图形的哪个点放到起点</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인의 어느 점을 시작점에 둘지</translation>
     </message>
     <message>
         <source>左上</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 위</translation>
     </message>
     <message>
         <source>上中</source>
-        <translation type="unfinished"></translation>
+        <translation>위</translation>
     </message>
     <message>
         <source>右上</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 위</translation>
     </message>
     <message>
         <source>左中</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽</translation>
     </message>
     <message>
         <source>中心</source>
-        <translation type="unfinished"></translation>
+        <translation>중앙</translation>
     </message>
     <message>
         <source>右中</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽</translation>
     </message>
     <message>
         <source>左下</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 아래</translation>
     </message>
     <message>
         <source>下中</source>
-        <translation type="unfinished"></translation>
+        <translation>아래</translation>
     </message>
     <message>
         <source>右下</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 아래</translation>
     </message>
 </context>
 <context>
@@ -1139,130 +1139,130 @@
     <name>ParameterLibrary</name>
     <message>
         <source>不是有效的JSON:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>올바른 JSON이 아닙니다: %1</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리 파일이 아닙니다</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
-        <translation type="unfinished"></translation>
+        <translation>지원하지 않는 라이브러리 버전입니다</translation>
     </message>
     <message>
         <source>第%1项的%2无效</source>
-        <translation type="unfinished"></translation>
+        <translation>%1번 항목: %2 값이 잘못되었습니다</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>파일을 쓸 수 없습니다: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>파일을 읽을 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
     <name>ParameterLibraryDialog</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished"></translation>
+        <translation>재료:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished">이름:</translation>
+        <translation>이름:</translation>
     </message>
     <message>
         <source>厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>두께:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>从当前图层添加</source>
-        <translation type="unfinished"></translation>
+        <translation>레이어에서 추가</translation>
     </message>
     <message>
         <source>应用到当前图层</source>
-        <translation type="unfinished"></translation>
+        <translation>레이어에 적용</translation>
     </message>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 변경</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished">삭제</translation>
+        <translation>삭제</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기</translation>
     </message>
     <message>
         <source>参数库 (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리 (*.json)</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리를 읽을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>전체</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 레이어를 선택하세요</translation>
     </message>
     <message>
         <source>请输入名称</source>
-        <translation type="unfinished"></translation>
+        <translation>이름을 입력하세요</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">확인</translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>已有同名预设,是否替换?</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 이름의 프리셋이 있습니다. 바꾸시겠습니까?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">알림</translation>
+        <translation>알림</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 프리셋을 선택하세요</translation>
     </message>
     <message>
         <source>已有同名预设</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 이름의 프리셋이 있습니다</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기 실패: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1개 추가, %2개 교체</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기 실패: %1</translation>
     </message>
 </context>
 <context>
@@ -1292,19 +1292,19 @@
     <name>ProductionController</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리</translation>
     </message>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>재료 테스트 카드</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리를 읽을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>已存入参数库:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>파라미터 라이브러리에 저장됨: %1</translation>
     </message>
 </context>
 <context>
@@ -1513,90 +1513,90 @@
     <name>TestCard</name>
     <message>
         <source>行数和列数至少为1</source>
-        <translation type="unfinished"></translation>
+        <translation>행과 열은 1 이상이어야 합니다</translation>
     </message>
     <message>
         <source>功率须在0到100之间</source>
-        <translation type="unfinished"></translation>
+        <translation>파워는 0에서 100 사이여야 합니다</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation type="unfinished"></translation>
+        <translation>속도는 5 이상이어야 합니다</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>크기 또는 반복 횟수가 잘못되었습니다</translation>
     </message>
 </context>
 <context>
     <name>TestCardDialog</name>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>재료 테스트 카드</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished">파워 (%):</translation>
+        <translation>파워 (%):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished">속도 (mm/min):</translation>
+        <translation>속도 (mm/min):</translation>
     </message>
     <message>
         <source>行 × 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>행 × 열:</translation>
     </message>
     <message>
         <source>方块 / 间距：</source>
-        <translation type="unfinished"></translation>
+        <translation>사각형 / 간격:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>模式 / 次数：</source>
-        <translation type="unfinished"></translation>
+        <translation>모드 / 반복 횟수:</translation>
     </message>
     <message>
         <source>线条</source>
-        <translation type="unfinished">라인</translation>
+        <translation>라인</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished">채우기</translation>
+        <translation>채우기</translation>
     </message>
     <message>
         <source>生成</source>
-        <translation type="unfinished"></translation>
+        <translation>생성</translation>
     </message>
     <message>
         <source>最佳方块</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 사각형</translation>
     </message>
     <message>
         <source>最佳 行 / 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 행 / 열:</translation>
     </message>
     <message>
         <source>材料 / 厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>재료 / 두께:</translation>
     </message>
     <message>
         <source>存入参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브러리에 저장</translation>
     </message>
     <message>
         <source>%1个方块超过%2个图层,将分成%3页</source>
-        <translation type="unfinished"></translation>
+        <translation>사각형 %1개가 레이어 %2개를 넘어 %3페이지로 나뉩니다</translation>
     </message>
     <message>
         <source>%1个方块,1页</source>
-        <translation type="unfinished"></translation>
+        <translation>사각형 %1개, 1페이지</translation>
     </message>
     <message>
         <source>请输入材料</source>
-        <translation type="unfinished"></translation>
+        <translation>재료를 입력하세요</translation>
     </message>
 </context>
 <context>
@@ -1984,23 +1984,23 @@
     <name>lumitra::Barcode</name>
     <message>
         <source>尺寸必须大于 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>크기는 0보다 커야 합니다!</translation>
     </message>
     <message>
         <source>请输入内容!</source>
-        <translation type="unfinished"></translation>
+        <translation>내용을 입력하세요!</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>바코드 라이브러리를 사용할 수 없습니다!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>EAN-13에는 12자리 또는 13자리 숫자가 필요합니다!</translation>
     </message>
     <message>
         <source>UPC-A 需要 11 或 12 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>UPC-A에는 11자리 또는 12자리 숫자가 필요합니다!</translation>
     </message>
 </context>
 <context>

@@ -107,62 +107,62 @@
     <name>BarcodeActions</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code / código de barras</translation>
     </message>
 </context>
 <context>
     <name>BarcodeDialog</name>
     <message>
         <source>二维码/条形码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code / código de barras</translation>
     </message>
     <message>
         <source>类型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo:</translation>
     </message>
     <message>
         <source>QR 码</source>
-        <translation type="unfinished"></translation>
+        <translation>QR code</translation>
     </message>
     <message>
         <source>内容：</source>
-        <translation type="unfinished"></translation>
+        <translation>Conteúdo:</translation>
     </message>
     <message>
         <source>宽度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Largura:</translation>
     </message>
     <message>
         <source>条高：</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura da barra:</translation>
     </message>
     <message>
         <source>静区：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zona de silêncio:</translation>
     </message>
     <message>
         <source> 模块</source>
-        <translation type="unfinished"></translation>
+        <translation> módulos</translation>
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation type="unfinished"></translation>
+        <translation>Correção de erros:</translation>
     </message>
     <message>
         <source>显示文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Exibir texto</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>无法生成条码：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível gerar o código: %1</translation>
     </message>
 </context>
 <context>
@@ -579,7 +579,7 @@ Continuar?</translation>
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation type="unfinished"></translation>
+        <translation>A posição do cabeçote é desconhecida. Conecte a máquina primeiro!</translation>
     </message>
 </context>
 <context>
@@ -729,7 +729,7 @@ Continuar?</translation>
     </message>
     <message>
         <source>当前位置未知</source>
-        <translation type="unfinished"></translation>
+        <translation>A posição do cabeçote é desconhecida</translation>
     </message>
 </context>
 <context>
@@ -925,7 +925,7 @@ Continuar?</translation>
     </message>
     <message>
         <source>当前位置未知,请等待设备上报位置!</source>
-        <translation type="unfinished"></translation>
+        <translation>A posição do cabeçote é desconhecida. Aguarde a máquina informá-la!</translation>
     </message>
 </context>
 <context>
@@ -980,63 +980,63 @@ Continuar?</translation>
     </message>
     <message>
         <source>起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>任务从哪里开始</source>
-        <translation type="unfinished"></translation>
+        <translation>Onde o trabalho começa</translation>
     </message>
     <message>
         <source>绝对坐标</source>
-        <translation type="unfinished"></translation>
+        <translation>Coord. absolutas</translation>
     </message>
     <message>
         <source>当前位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição atual</translation>
     </message>
     <message>
         <source>用户原点</source>
-        <translation type="unfinished"></translation>
+        <translation>Origem do usuário</translation>
     </message>
     <message>
         <source>图形的哪个点放到起点</source>
-        <translation type="unfinished"></translation>
+        <translation>Qual ponto do desenho vai para o início</translation>
     </message>
     <message>
         <source>左上</source>
-        <translation type="unfinished"></translation>
+        <translation>Superior esquerdo</translation>
     </message>
     <message>
         <source>上中</source>
-        <translation type="unfinished"></translation>
+        <translation>Superior central</translation>
     </message>
     <message>
         <source>右上</source>
-        <translation type="unfinished"></translation>
+        <translation>Superior direito</translation>
     </message>
     <message>
         <source>左中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro esquerdo</translation>
     </message>
     <message>
         <source>中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>右中</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro direito</translation>
     </message>
     <message>
         <source>左下</source>
-        <translation type="unfinished"></translation>
+        <translation>Inferior esquerdo</translation>
     </message>
     <message>
         <source>下中</source>
-        <translation type="unfinished"></translation>
+        <translation>Inferior central</translation>
     </message>
     <message>
         <source>右下</source>
-        <translation type="unfinished"></translation>
+        <translation>Inferior direito</translation>
     </message>
 </context>
 <context>
@@ -1139,130 +1139,130 @@ Continuar?</translation>
     <name>ParameterLibrary</name>
     <message>
         <source>不是有效的JSON:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON inválido: %1</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo de biblioteca de parâmetros</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão da biblioteca não suportada</translation>
     </message>
     <message>
         <source>第%1项的%2无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Item %1: valor de %2 inválido</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível escrever no arquivo: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o arquivo: %1</translation>
     </message>
 </context>
 <context>
     <name>ParameterLibraryDialog</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca de parâmetros</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished"></translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>名称：</source>
-        <translation type="unfinished">Nome:</translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Espessura:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>从当前图层添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar da camada</translation>
     </message>
     <message>
         <source>应用到当前图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar à camada</translation>
     </message>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomear</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished">Excluir</translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>参数库 (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca de parâmetros (*.json)</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler a biblioteca de parâmetros: %1</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma camada primeiro</translation>
     </message>
     <message>
         <source>请输入名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um nome</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>已有同名预设,是否替换?</source>
-        <translation type="unfinished"></translation>
+        <translation>Já existe uma predefinição com esse nome. Substituir?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Aviso</translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma predefinição primeiro</translation>
     </message>
     <message>
         <source>已有同名预设</source>
-        <translation type="unfinished"></translation>
+        <translation>Já existe uma predefinição com esse nome</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao importar: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 predefinições adicionadas, %2 substituídas</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao exportar: %1</translation>
     </message>
 </context>
 <context>
@@ -1292,19 +1292,19 @@ Continuar?</translation>
     <name>ProductionController</name>
     <message>
         <source>参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca de parâmetros</translation>
     </message>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartão de teste de material</translation>
     </message>
     <message>
         <source>参数库无法读取:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler a biblioteca de parâmetros: %1</translation>
     </message>
     <message>
         <source>已存入参数库:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvo na biblioteca de parâmetros: %1</translation>
     </message>
 </context>
 <context>
@@ -1513,90 +1513,90 @@ Continuar?</translation>
     <name>TestCard</name>
     <message>
         <source>行数和列数至少为1</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas e colunas devem ser no mínimo 1</translation>
     </message>
     <message>
         <source>功率须在0到100之间</source>
-        <translation type="unfinished"></translation>
+        <translation>A potência deve estar entre 0 e 100</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation type="unfinished"></translation>
+        <translation>A velocidade deve ser no mínimo 5</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamanho ou passadas inválidos</translation>
     </message>
 </context>
 <context>
     <name>TestCardDialog</name>
     <message>
         <source>材料测试卡</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartão de teste de material</translation>
     </message>
     <message>
         <source>功率(%)：</source>
-        <translation type="unfinished">Potência (%):</translation>
+        <translation>Potência (%):</translation>
     </message>
     <message>
         <source>速度(mm/min)：</source>
-        <translation type="unfinished">Velocidade (mm/min):</translation>
+        <translation>Velocidade (mm/min):</translation>
     </message>
     <message>
         <source>行 × 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas × colunas:</translation>
     </message>
     <message>
         <source>方块 / 间距：</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrado / espaço:</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>模式 / 次数：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo / passadas:</translation>
     </message>
     <message>
         <source>线条</source>
-        <translation type="unfinished">Linha</translation>
+        <translation>Linha</translation>
     </message>
     <message>
         <source>填充</source>
-        <translation type="unfinished">Preenchimento</translation>
+        <translation>Preenchimento</translation>
     </message>
     <message>
         <source>生成</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerar</translation>
     </message>
     <message>
         <source>最佳方块</source>
-        <translation type="unfinished"></translation>
+        <translation>Melhor quadrado</translation>
     </message>
     <message>
         <source>最佳 行 / 列：</source>
-        <translation type="unfinished"></translation>
+        <translation>Melhor linha / coluna:</translation>
     </message>
     <message>
         <source>材料 / 厚度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Material / espessura:</translation>
     </message>
     <message>
         <source>存入参数库</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar na biblioteca</translation>
     </message>
     <message>
         <source>%1个方块超过%2个图层,将分成%3页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 quadrados precisam de mais de %2 camadas: %3 páginas</translation>
     </message>
     <message>
         <source>%1个方块,1页</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 quadrados, 1 página</translation>
     </message>
     <message>
         <source>请输入材料</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o material</translation>
     </message>
 </context>
 <context>
@@ -1984,23 +1984,23 @@ Continuar?</translation>
     <name>lumitra::Barcode</name>
     <message>
         <source>尺寸必须大于 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>O tamanho deve ser maior que 0!</translation>
     </message>
     <message>
         <source>请输入内容!</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o conteúdo!</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation type="unfinished"></translation>
+        <translation>A biblioteca de códigos de barras não está disponível!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>EAN-13 requer 12 ou 13 dígitos!</translation>
     </message>
     <message>
         <source>UPC-A 需要 11 或 12 位数字!</source>
-        <translation type="unfinished"></translation>
+        <translation>UPC-A requer 11 ou 12 dígitos!</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 // cannot read.
 #include "align_panel.h"
 #include "array_dialog.h"
+#include "barcode_dialog.h"
 #include "controller_search_dialog.h"
 #include "gun_zhou.h"
 #include "jiao_zhun.h"
@@ -16,10 +17,12 @@
 #include "message_box.h"
 #include "moshiyulan.h"
 #include "move_dialog.h"
+#include "parameter_library_dialog.h"
 #include "photo_panel.h"
 #include "program_state.h"
 #include "qidongye.h"
 #include "sd_file_manager.h"
+#include "test_card_dialog.h"
 #include "tu_ceng_zhi.h"
 #include "widget.h"
 #include "wifi_she_zhi.h"
@@ -176,7 +179,10 @@ private slots:
                                 "ControllerSearchDialog",
                                 "JiaoZhun",
                                 "PhotoPanel",
-                                "QiDongYe"};
+                                "QiDongYe",
+                                "ParameterLibraryDialog",
+                                "TestCardDialog",
+                                "BarcodeDialog"};
         QStringList languages{QString()};
         languages << all_language_codes();
         for (const QString &language : languages)
@@ -212,6 +218,9 @@ private slots:
             {"JiaoZhun", [] { return new JiaoZhun; }},
             {"PhotoPanel", [] { return new PhotoPanel; }},
             {"QiDongYe", [] { return new QiDongYe; }},
+            {"ParameterLibraryDialog", [] { return new ParameterLibraryDialog; }},
+            {"TestCardDialog", [] { return new TestCardDialog; }},
+            {"BarcodeDialog", [] { return new BarcodeDialog; }},
         };
         std::unique_ptr<QWidget> shown;
         if (form == QLatin1String("Widget")) {
