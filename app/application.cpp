@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QTextStream>
@@ -85,6 +86,12 @@ int runWindow(QApplication &app, const CommandLine &cl)
     QTranslator translator;
     if (translator.load(languageFile))
         app.installTranslator(&translator);
+    // Qt's own texts (standard dialog buttons, context menus) in the same
+    // language, when the system ships them.
+    QTranslator qtTexts;
+    const QString code = QFileInfo(languageFile).baseName().chopped(1); // "dw2" -> "dw"
+    if (qtTexts.load(qt_translation_file(code)))
+        app.installTranslator(&qtTexts);
     load_work_area();
     register_importers();
 

@@ -3,6 +3,9 @@
 #include "settings_store.h"
 
 #include <QDebug>
+#include <QFileInfo>
+#include <QHash>
+#include <QLibraryInfo>
 
 namespace lumitra {
 
@@ -25,6 +28,31 @@ QStringList offered_language_codes()
 QString language_resource(const QString &code)
 {
     return QStringLiteral(":/language/") + code + QStringLiteral("2.qm");
+}
+
+QString qt_locale_name(const QString &code)
+{
+    static const QHash<QString, QString> locales = {{QStringLiteral("zw"), QStringLiteral("zh_CN")},
+                                                    {QStringLiteral("yw"), QStringLiteral("en")},
+                                                    {QStringLiteral("hw"), QStringLiteral("ko")},
+                                                    {QStringLiteral("rw"), QStringLiteral("ja")},
+                                                    {QStringLiteral("dw"), QStringLiteral("de")},
+                                                    {QStringLiteral("ydlw"), QStringLiteral("it")},
+                                                    {QStringLiteral("fw"), QStringLiteral("fr")},
+                                                    {QStringLiteral("xw"), QStringLiteral("es")},
+                                                    {QStringLiteral("pty"), QStringLiteral("pt")},
+                                                    {QStringLiteral("ew"), QStringLiteral("ru")}};
+    return locales.value(code);
+}
+
+QString qt_translation_file(const QString &code)
+{
+    const QString locale = qt_locale_name(code);
+    if (locale.isEmpty())
+        return QString();
+    const QString file = QLibraryInfo::location(QLibraryInfo::TranslationsPath)
+                         + QStringLiteral("/qtbase_") + locale + QStringLiteral(".qm");
+    return QFileInfo::exists(file) ? file : QString();
 }
 
 QString load_language()

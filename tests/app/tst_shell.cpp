@@ -49,6 +49,23 @@ private slots:
         }
     }
 
+    // Qt's own texts (standard dialog buttons) follow the interface language
+    // where the system ships Qt's translations.
+    void qtTextsFollowTheLanguage()
+    {
+        for (const QString &code : all_language_codes())
+            QVERIFY2(!qt_locale_name(code).isEmpty(), qPrintable(code));
+        const QString german = qt_translation_file(QStringLiteral("dw"));
+        if (german.isEmpty())
+            QSKIP("Qt's translations are not installed (qttranslations5-l10n)");
+        QTranslator qtTexts;
+        QVERIFY(qtTexts.load(german));
+        QCoreApplication::installTranslator(&qtTexts);
+        const QString close = QCoreApplication::translate("QPlatformTheme", "Close");
+        QCoreApplication::removeTranslator(&qtTexts);
+        QCOMPARE(close, QStringLiteral("Schließen"));
+    }
+
     void menuOffersNineLanguagesWithoutEw()
     {
         set_setting(QStringLiteral("language"), QStringLiteral("yw"));

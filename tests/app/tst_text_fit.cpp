@@ -197,9 +197,12 @@ private slots:
         QFETCH(QString, form);
         resetProgramState();
         QTranslator translator;
+        QTranslator qtTexts; // Qt's own standard buttons, as the application loads them
         if (!language.isEmpty()) {
             QVERIFY(translator.load(language_resource(language)));
             QCoreApplication::installTranslator(&translator);
+            if (qtTexts.load(qt_translation_file(language)))
+                QCoreApplication::installTranslator(&qtTexts);
         }
         const QMap<QString, FormMaker> makers{
             {"MachinePanel", [] { return new MachinePanel; }},
@@ -245,6 +248,7 @@ private slots:
         const QStringList cut = cutTexts(shown.get());
         shown.reset();
         QCoreApplication::removeTranslator(&translator);
+        QCoreApplication::removeTranslator(&qtTexts);
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QLatin1Char('\n'))));
     }
 };
