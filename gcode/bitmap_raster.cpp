@@ -94,12 +94,28 @@ QTransform pixelToScene(const Jk_tu_yuan &item, const QSize &imageSize)
     return pixelToItem * item.sceneTransform();
 }
 
-void engraveBitmapItem(const Jk_tu_yuan &item, const TuCeng &layer, ToolpathSink &sink)
+void mergeEqualOutput(LevelMap &map, const std::array<int, 256> &table)
+{
+    unsigned char to[256];
+    for (int grey = 0; grey < 256; ++grey) {
+        int first = grey;
+        while (first > 0 && table[size_t(first - 1)] == table[size_t(grey)])
+            --first;
+        to[grey] = grey == LevelMap::kWhite ? LevelMap::kWhite : (unsigned char)first;
+    }
+    for (unsigned char &level : map.levels)
+        level = to[level];
+}
+
+void engraveBitmapItem(const Jk_tu_yuan &item, const TuCeng &layer, ToolpathSink &sink,
+                       const PowerSteps *steps)
 {
     const QImage &source = item.source_image.isNull() ? item.display_image : item.source_image;
     LevelMap levels = levelsForMode(source, layer.moshi);
     if (levels.isEmpty())
         return;
+    if (steps && layer.moshi == GreyscaleMode)
+        mergeEqualOutput(levels, greyPowerTable(layer.gonglv * 10.0, *steps));
     RasterSettings settings;
     settings.spacing = layer.jianju;
     settings.overscan = layer.saomiao;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "raster_engrave.h"
+#include "raster_words.h"
 
 #include <QImage>
 #include <QTransform>
@@ -33,7 +34,13 @@ QTransform pixelToScene(const Jk_tu_yuan &item, const QSize &imageSize);
 
 // Engraves one bitmap item with the parameters of its layer (the spacing,
 // overscan and direction of the layer; greyscale power in mode 3). Uses the
-// item's source image, or its display image when it has no source.
-void engraveBitmapItem(const Jk_tu_yuan &item, const TuCeng &layer, ToolpathSink &sink);
+// item's source image, or its display image when it has no source. With
+// `steps`, greys that burn at the same power step (greyPowerTable) are one
+// level, so that neighbouring pixels of equal output make one run.
+void engraveBitmapItem(const Jk_tu_yuan &item, const TuCeng &layer, ToolpathSink &sink,
+                       const PowerSteps *steps = nullptr);
+
+// Gives every grey the darkest grey with the same output in `table` (white stays white).
+void mergeEqualOutput(LevelMap &map, const std::array<int, 256> &table);
 
 } // namespace lumitra

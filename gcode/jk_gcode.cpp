@@ -114,6 +114,7 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
     state.preamble.clear();
     output.writeText(rotaryStartBump(rotary, state.modelFlag));
 
+    m_rasterSections.clear();
     for (const TuCeng *layer : layers.layers()) {
         if (layer->shuchu)
             emitLayer(*layer, tysz, output, emitter);
@@ -127,6 +128,7 @@ bool Jk_gcode::kai_shi_zhuan_huan(const QList<Jk_tu_yuan *> &tysz, const QString
         qDebug() << "gcode: writing failed" << file.fileName() << m_lastError;
         return false;
     }
+    m_feedCaps.clear();
     m_lastJobSize = output.bytesWritten();
     m_lastShift = shift;
     qDebug() << " 转换花费的时间" << timer.elapsed();
@@ -143,7 +145,33 @@ void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, 
             own.append(item);
     }
     output.writeText(layerComment(layer.mingcheng));
-    emitter.setLayer(layer);
+    const double feedCap = layer.tupian ? m_feedCaps.value(&layer, 0.0) : 0.0;
+    emitter.setLayer(layer, feedCap);
+    const bool raster = layer.tupian && m_rasterWords;
+    emitter.setRasterWords(raster, m_powerSteps);
+    RasterSection section;
+    section.layer = &layer;
+    section.name = layer.mingcheng;
+    section.feed = feedCap > 0 && raster ? qMin<double>(layer.sudu, feedCap) : layer.sudu;
+    const qint64 bytesBefore = output.bytesWritten();
+    const double lengthBefore = emitter.feedLength();
+    struct Record
+    {
+        Jk_gcode *self;
+        RasterSection &section;
+        JobOutput &output;
+        PathEmitter &emitter;
+        qint64 bytesBefore;
+        double lengthBefore;
+        ~Record()
+        {
+            if (!section.layer->tupian)
+                return;
+            section.bytes = output.bytesWritten() - bytesBefore;
+            section.feedLength = emitter.feedLength() - lengthBefore;
+            self->m_rasterSections.append(section);
+        }
+    } record{this, section, output, emitter, bytesBefore, lengthBefore};
     const std::atomic_bool &cancel = programState().cancel;
     for (int pass = 0; pass < layer.cishu; ++pass) {
         for (const Jk_tu_yuan *item : qAsConst(own)) {
@@ -151,7 +179,7 @@ void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, 
                 return;
             if (item->is_bitmap) {
                 emitter.beginPath();
-                engraveBitmapItem(*item, layer, emitter);
+                engraveBitmapItem(*item, layer, emitter, raster ? &m_powerSteps : nullptr);
                 emitter.endPath();
                 continue;
             }

@@ -19,8 +19,10 @@
 #pragma once
 
 #include "job_origin.h"
+#include "raster_words.h"
 #include "rotary.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -61,6 +63,28 @@ public:
     // Bytes written by the last job.
     qint64 lastJobSize() const { return m_lastJobSize; }
 
+    // Bitmap layers are written with raster words (raster_words.h) unless
+    // this is switched off (then with two decimals everywhere, as vectors).
+    void setRasterWords(bool on) { m_rasterWords = on; }
+    bool rasterWords() const { return m_rasterWords; }
+    // The controller's PWM steps the raster power is fitted to.
+    void setPowerSteps(const lumitra::PowerSteps &steps) { m_powerSteps = steps; }
+    // Speeds (mm/min) to use instead of the layer's for the next job only,
+    // by bitmap layer; cleared when that job has been written.
+    void setRasterFeedCaps(const QHash<const TuCeng *, double> &caps) { m_feedCaps = caps; }
+
+    // One bitmap layer of the last job: its bytes and the length of its
+    // moves at feed speed, at `feed` mm/min.
+    struct RasterSection
+    {
+        const TuCeng *layer = nullptr;
+        QString name;
+        qint64 bytes = 0;
+        double feedLength = 0.0;
+        double feed = 0.0;
+    };
+    const QList<RasterSection> &lastRasterSections() const { return m_rasterSections; }
+
 public slots:
     // Writes the job for `tysz` (items in scene order) to `path`, or to
     // defaultJobPath() when `path` is empty. Returns false, without emitting
@@ -83,4 +107,8 @@ private:
     QPointF m_lastShift;
     QString m_lastError;
     qint64 m_lastJobSize = 0;
+    bool m_rasterWords = true;
+    lumitra::PowerSteps m_powerSteps;
+    QHash<const TuCeng *, double> m_feedCaps;
+    QList<RasterSection> m_rasterSections;
 };

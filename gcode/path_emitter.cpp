@@ -25,6 +25,13 @@ void PathEmitter::NumberText::set(double value)
         wideLength = int(writeFixed(text, value, 2) - text);
 }
 
+void PathEmitter::NumberText::setShort(double value)
+{
+    set(value);
+    if (!wide)
+        trimPacked(packed);
+}
+
 Q_ALWAYS_INLINE bool PathEmitter::KeptValue::keep(const NumberText &value)
 {
     if (valid && !value.wide && packed.length == value.packed.length
@@ -56,7 +63,7 @@ PathEmitter::PathEmitter(JobOutput &output, const RotarySettings &rotary,
     setLayer(TuCeng());
 }
 
-void PathEmitter::setLayer(const TuCeng &layer)
+void PathEmitter::setLayer(const TuCeng &layer, double feedCap)
 {
     const double power = layer.gonglv * 10.0;
     m_power.set(power);
@@ -64,6 +71,25 @@ void PathEmitter::setLayer(const TuCeng &layer)
     for (int grey = 0; grey < 256; ++grey)
         m_greyPower[grey].set(power * (255 - grey) / 255);
     m_feed.set(layer.sudu);
+    m_layerPower = power;
+    m_layerFeed = layer.sudu;
+    m_feedCap = feedCap;
+    setRasterWords(m_raster, m_steps);
+}
+
+void PathEmitter::setRasterWords(bool on, const PowerSteps &steps)
+{
+    m_raster = on;
+    m_steps = steps;
+    m_haveCachedY = false; // the cached text has the other form
+    if (!on)
+        return;
+    m_rasterPower.setShort(quantisedPower(m_layerPower, steps));
+    m_rasterZero.setShort(0.0);
+    const std::array<int, 256> grey = greyPowerTable(m_layerPower, steps);
+    for (int g = 0; g < 256; ++g)
+        m_rasterGrey[g].setShort(grey[size_t(g)]);
+    m_rasterFeed.setShort(m_feedCap > 0 ? qMin(m_layerFeed, m_feedCap) : m_layerFeed);
 }
 
 char *PathEmitter::reserve(size_t room)
@@ -113,12 +139,17 @@ void PathEmitter::writeLine(char motion, double x, double y, const NumberText *p
 
     NumberText xText;
     formatX(x, xText);
+    if (m_raster && !xText.wide)
+        trimPacked(xText.packed);
     if (m_keptX.keep(xText))
         p = writeWord(p, 'X', xText);
     if (!m_haveCachedY || y != m_cachedY) {
         m_cachedY = y;
         m_haveCachedY = true;
-        m_yText.set(-y);
+        if (m_raster)
+            m_yText.setShort(-y);
+        else
+            m_yText.set(-y);
     }
     if (m_keptY.keep(m_yText))
         p = writeWord(p, 'Y', m_yText);
@@ -127,10 +158,15 @@ void PathEmitter::writeLine(char motion, double x, double y, const NumberText *p
     if (power) {
         if (m_keptS.keep(*power))
             p = writeWord(p, 'S', *power);
-        if (m_keptF.keep(m_feed))
-            p = writeWord(p, 'F', m_feed);
-        m_fullLength += size_t(2 + power->length() + m_feed.length());
+        const NumberText &feed = m_raster ? m_rasterFeed : m_feed;
+        if (m_keptF.keep(feed))
+            p = writeWord(p, 'F', feed);
+        m_fullLength += size_t(2 + power->length() + feed.length());
     }
+    if (motion == '1')
+        m_feedLength += std::hypot(x - m_lastX, y - m_lastY);
+    m_lastX = x;
+    m_lastY = y;
     *p++ = '\n';
     m_used += size_t(p - start);
 }
@@ -173,7 +209,7 @@ void PathEmitter::travel(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('0', x, y, &m_power);
+    writeLine('0', x, y, m_raster ? &m_rasterPower : &m_power);
     if (m_index == 0 && !m_pathBump.isEmpty())
         appendRaw(m_pathBump);
     elementDone();
@@ -183,7 +219,7 @@ void PathEmitter::burn(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('1', x, y, &m_power);
+    writeLine('1', x, y, m_raster ? &m_rasterPower : &m_power);
     elementDone();
 }
 
@@ -191,7 +227,7 @@ void PathEmitter::coast(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('1', x, y, &m_zeroPower);
+    writeLine('1', x, y, m_raster ? &m_rasterZero : &m_zeroPower);
     elementDone();
 }
 
@@ -199,7 +235,8 @@ void PathEmitter::burnGrey(double x, double y, int grey)
 {
     if (cancelled())
         return;
-    writeLine('1', x, y, &m_greyPower[qBound(0, grey, 255)]);
+    const int g = qBound(0, grey, 255);
+    writeLine('1', x, y, m_raster ? &m_rasterGrey[g] : &m_greyPower[g]);
     elementDone();
 }
 

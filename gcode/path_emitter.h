@@ -21,6 +21,7 @@
 #pragma once
 
 #include "gcode_number.h"
+#include "raster_words.h"
 #include "rotary.h"
 #include "toolpath_sink.h"
 
@@ -48,7 +49,16 @@ public:
     PathEmitter(JobOutput &output, const RotarySettings &rotary, const std::atomic_bool *cancel);
 
     // Takes the power and speed words of a layer for the paths that follow.
-    void setLayer(const TuCeng &layer);
+    // `feedCap` (mm/min, when positive) lowers the speed of raster paths.
+    void setLayer(const TuCeng &layer, double feedCap = 0.0);
+    // Raster words (raster_words.h) for the paths that follow: numbers without
+    // trailing zeros, S whole and on the controller's power steps. Off, every
+    // number has two decimals.
+    void setRasterWords(bool on, const PowerSteps &steps = PowerSteps());
+    bool rasterWords() const { return m_raster; }
+    // Length in mm of the moves at feed speed (burns and coasts) written so
+    // far; raster sections divide their bytes by the time it takes.
+    double feedLength() const { return m_feedLength; }
     // Moves everything written from now on by `machineShift` (mm, machine
     // axes: X as written, Y up). A zero shift writes the numbers untouched.
     void setShift(const QPointF &machineShift);
@@ -83,6 +93,7 @@ private:
         int wideLength = 0;
         int length() const { return wide ? wideLength : packed.length; }
         void set(double value);
+        void setShort(double value); // raster words: no trailing zeros
     };
     // The last value kept for one letter in the current piece.
     struct KeptValue
@@ -120,6 +131,19 @@ private:
     NumberText m_zeroPower;      // S for coasting
     NumberText m_greyPower[256]; // S scaled by grey level
     NumberText m_feed;           // the layer's speed (F)
+    // Raster words: the same texts, short and on the power steps.
+    bool m_raster = false;
+    PowerSteps m_steps;
+    double m_layerPower = 0.0;
+    double m_layerFeed = 0.0;
+    double m_feedCap = 0.0;
+    NumberText m_rasterPower;
+    NumberText m_rasterZero;
+    NumberText m_rasterGrey[256];
+    NumberText m_rasterFeed;
+    double m_feedLength = 0.0;
+    double m_lastX = 0.0; // where the last line went (scene)
+    double m_lastY = 0.0;
     std::vector<char> m_buffer;
     size_t m_used = 0;
     size_t m_fullLength = 0;                      // characters of the full lines in the buffer

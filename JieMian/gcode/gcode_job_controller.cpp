@@ -11,6 +11,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
+#include <QStringList>
 
 using namespace lumitra;
 
@@ -157,8 +159,44 @@ bool GcodeJobController::prepareRun(const QList<Jk_tu_yuan *> &items)
         show_notice(m_parent, tr("生成G代码失败!"));
         return false;
     }
+    if (m_serialSource && m_serialSource() && !confirmWireRate(items))
+        return false;
     programState().jobFilePath = Jk_gcode::defaultJobPath();
     emit runFileReady(programState().jobFilePath);
+    return true;
+}
+
+bool GcodeJobController::confirmWireRate(const QList<Jk_tu_yuan *> &items)
+{
+    QHash<const TuCeng *, double> caps;
+    QStringList lines;
+    for (const Jk_gcode::RasterSection &section : m_generator->lastRasterSections()) {
+        const WireLoad load = wireLoad(double(section.bytes), section.feedLength, section.feed);
+        if (!load.exceeds || caps.contains(section.layer))
+            continue;
+        caps.insert(section.layer, qMax(1.0, load.fastestFeed));
+        lines << tr("%1: 需要 %2 字节/秒, 最快 %3 mm/min")
+                     .arg(section.name)
+                     .arg(qRound(load.bytesPerSecond))
+                     .arg(qMax(1.0, load.fastestFeed));
+    }
+    if (caps.isEmpty())
+        return true;
+    const QString message =
+        tr("串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:").arg(qRound(kSerialBytesPerSecond))
+        + QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
+    const int answer = show_message(m_parent, MessageKind::Question, tr("取消"), tr("降速"),
+                                    tr("仍然运行"), message, tr("提示"));
+    if (answer == 2)
+        return true;
+    if (answer != 1)
+        return false;
+    m_generator->setRasterFeedCaps(caps);
+    programState().cancel = false;
+    if (!m_generator->kai_shi_zhuan_huan(items, QString())) {
+        show_notice(m_parent, tr("生成G代码失败!"));
+        return false;
+    }
     return true;
 }
 

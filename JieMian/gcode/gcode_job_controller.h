@@ -58,10 +58,17 @@ public slots:
     // Writes the job to `path` (no work-area question: the preview); tells the
     // user and returns false on failure.
     bool saveGcodeTo(const QList<Jk_tu_yuan *> &items, const QString &path);
+    // Whether a run goes over the serial link (asked in prepareRun); unless
+    // set, never.
+    void setSerialLinkSource(std::function<bool()> source) { m_serialSource = std::move(source); }
+
     // Before a run: the work-area question; with the rotary on, asks
     // "请在滚轴界面检查相关参数再运行!" and stops unless confirmed (with unusable rotary settings
     // it only says so and stops); then writes "code.txt" and makes it the job file of the program
-    // state. True when the job may be sent.
+    // state. Over the serial link, a bitmap layer needing more bytes per
+    // second than the link carries is named in a question offering its fastest
+    // feed for this run ("降速", rewrites the job), "仍然运行" or "取消".
+    // True when the job may be sent.
     bool prepareRun(const QList<Jk_tu_yuan *> &items);
     // Opens the rotary dialog (modal); true when its settings were stored.
     bool editRotary();
@@ -79,6 +86,8 @@ private:
     bool placeJob(const QList<Jk_tu_yuan *> &items, bool askWorkArea);
     bool writeJob(const QList<Jk_tu_yuan *> &items, const QString &path);
     const LayerList &layers() const;
+    // The wire question after the job was written; false to cancel.
+    bool confirmWireRate(const QList<Jk_tu_yuan *> &items);
 
     QWidget *m_parent;
     Jk_gcode *m_generator;
@@ -86,4 +95,5 @@ private:
     QString m_lastFolder;
     const LayerList *m_layers = nullptr; // the program-wide list when null
     std::function<lumitra::JobStart()> m_startSource;
+    std::function<bool()> m_serialSource;
 };

@@ -1,17 +1,25 @@
 // Generation speed and peak memory through the application's own generator.
 //
 //   bench_gcode            runs every case, each in a fresh process
-//   bench_gcode CASE [OUT] runs one case: fill, line, dither or dither-natural
+//   bench_gcode CASE [OUT] runs one case: fill, line, dither, dither-natural
+//                          or grey
+//   --plain-raster         (with either) bitmap layers in two-decimal words,
+//                          as vectors, to compare against
 //
 // Cases: 5,000 random circles (radius 2-20 mm) over the 400 x 400 mm work area
 // in fill mode at 0.1 mm; 50,000 random circles in line mode; a 4000 x 4000
 // pixel photo in dither mode at 0.1 mm, fitted to the work area (the image
-// mode is part of the time); the same photo at its imported size, 1016 mm.
+// mode is part of the time); the same photo at its imported size, 1016 mm;
+// the photo fitted in greyscale mode at 0.1 mm. Raster cases also print the
+// bytes of the raster, its burnt runs (moves that burn, found by simulating
+// the job), bytes per burnt run, and the bytes per second the raster needs at
+// its feed against a serial link's 11,520.
 // Each prints the seconds spent in the generator (wall clock, and the CPU time
 // of the process, which other work on the machine disturbs less), MB of G-code
 // per second and the process's peak resident memory (VmHWM).
 #include "jk_gcode.h"
 #include "jk_tu_yuan.h"
+#include "job_simulator.h"
 #include "layer_list.h"
 #include "owned_items.h"
 #include "program_state.h"
@@ -110,10 +118,10 @@ QImage syntheticPhoto(int size)
 // pixel of 0.1 mm, one scan line per pixel row) unless `natural`, where it
 // keeps the 0.254 mm pixels of an imported bitmap (1016 mm square, 2.54 scan
 // lines per pixel row).
-void photo(Design &d, bool natural)
+void photo(Design &d, bool natural, int mode = DitherMode)
 {
     auto *layer = new TuCeng(0, true);
-    layer->moshi = DitherMode;
+    layer->moshi = mode;
     layer->jianju = 0.1;
     d.layers.append(layer);
     Jk_tu_yuan *item = d.items.take(new Jk_tu_yuan(syntheticPhoto(4000)));
@@ -125,7 +133,19 @@ void photo(Design &d, bool natural)
     }
 }
 
-int runCase(const QString &name, const QString &output)
+// Burning moves of a job file, as the controller would run it.
+qint64 burntRuns(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    JobSimulator sim;
+    qint64 runs = 0;
+    sim.run(file, [&runs](const JobSimulator::Move &m) { runs += m.burning; });
+    return runs;
+}
+
+int runCase(const QString &name, const QString &output, bool plainRaster)
 {
     Design d;
     if (name == QLatin1String("fill"))
@@ -136,10 +156,13 @@ int runCase(const QString &name, const QString &output)
         photo(d, false);
     else if (name == QLatin1String("dither-natural"))
         photo(d, true);
+    else if (name == QLatin1String("grey"))
+        photo(d, false, GreyscaleMode);
     else
         return 2;
     Jk_gcode generator;
     generator.setLayerList(&d.layers);
+    generator.setRasterWords(!plainRaster);
     lumitra::RotarySettings noRotary;
     generator.setRotarySettings(noRotary);
     QElapsedTimer timer;
@@ -160,6 +183,22 @@ int runCase(const QString &name, const QString &output)
                                .arg(megabytes, 0, 'f', 1)
                                .arg(megabytes / seconds, 0, 'f', 1)
                                .arg(peakMemory());
+    for (const Jk_gcode::RasterSection &section : generator.lastRasterSections()) {
+        const qint64 runs = burntRuns(output);
+        const lumitra::WireLoad load =
+            lumitra::wireLoad(double(section.bytes), section.feedLength, section.feed);
+        QTextStream(stdout) << QStringLiteral("%1  raster%2: %3 bytes, %4 burnt runs, %5 bytes "
+                                              "per run, %6 bytes/s at F%7 (link 11520; fastest "
+                                              "F%8)\n")
+                                   .arg(QString(), -6)
+                                   .arg(plainRaster ? QStringLiteral(" (plain)") : QString())
+                                   .arg(section.bytes)
+                                   .arg(runs)
+                                   .arg(runs > 0 ? double(section.bytes) / runs : 0.0, 0, 'f', 2)
+                                   .arg(load.bytesPerSecond, 0, 'f', 0)
+                                   .arg(section.feed)
+                                   .arg(load.fastestFeed);
+    }
     return 0;
 }
 
@@ -170,18 +209,23 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     qSetMessagePattern(QStringLiteral("%{if-critical}%{message}%{endif}"));
-    const QStringList args = app.arguments();
+    QStringList args = app.arguments();
+    const bool plainRaster = args.removeAll(QStringLiteral("--plain-raster")) > 0;
     QTemporaryDir dir;
     if (args.size() >= 2) {
         const QString output = args.size() >= 3 ? args[2] : dir.filePath(QStringLiteral("job.nc"));
-        return runCase(args[1], output);
+        return runCase(args[1], output, plainRaster);
     }
     int failures = 0;
-    for (const QString &name : {QStringLiteral("fill"), QStringLiteral("line"),
-                                QStringLiteral("dither"), QStringLiteral("dither-natural")}) {
+    for (const QString &name :
+         {QStringLiteral("fill"), QStringLiteral("line"), QStringLiteral("dither"),
+          QStringLiteral("dither-natural"), QStringLiteral("grey")}) {
         QProcess child;
         child.setProcessChannelMode(QProcess::ForwardedChannels);
-        child.start(app.applicationFilePath(), {name, dir.filePath(name + QStringLiteral(".nc"))});
+        QStringList childArgs{name, dir.filePath(name + QStringLiteral(".nc"))};
+        if (plainRaster)
+            childArgs << QStringLiteral("--plain-raster");
+        child.start(app.applicationFilePath(), childArgs);
         child.waitForFinished(-1);
         failures += child.exitCode() != 0;
     }

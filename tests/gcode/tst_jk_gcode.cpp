@@ -4,7 +4,9 @@
 #include "grbl_job_check.h"
 #include "jk_gcode.h"
 #include "job_designs.h"
+#include "job_simulator.h"
 #include "program_state.h"
+#include "raster_words.h"
 #include "rotary.h"
 #include "settings_store.h"
 
@@ -97,6 +99,57 @@ void buildDesign(const QString &name, JobDesign &d)
     }
 }
 
+// A grey picture with grain, so that most neighbouring pixels differ.
+QImage grainyPhoto(int w, int h)
+{
+    QImage img(w, h, QImage::Format_ARGB32);
+    QRandomGenerator rng(5);
+    for (int y = 0; y < h; ++y) {
+        for (int x = 0; x < w; ++x) {
+            const int g = qBound(0, 30 + 200 * x / w + int(rng.bounded(40)) - 20, 255);
+            img.setPixel(x, y, qRgb(g, g, g));
+        }
+    }
+    img.setPixel(3, 3, qRgb(255, 255, 255)); // a white hole
+    return img;
+}
+
+struct Burn
+{
+    QPointF from;
+    QPointF to;
+    int power;
+};
+
+// The burnt segments of a job, each power put on the controller's steps, with
+// neighbouring moves of one power along one line joined.
+QVector<Burn> burnsOf(const QByteArray &job)
+{
+    QVector<Burn> burns;
+    JobSimulator sim;
+    const PowerSteps steps;
+    for (const QByteArray &line : job.split('\n')) {
+        sim.feedLine(QString::fromLatin1(line), [&](const JobSimulator::Move &m) {
+            const int power = m.burning ? quantisedPower(m.power, steps) : 0;
+            if (power == 0)
+                return;
+            if (!burns.isEmpty()) {
+                Burn &last = burns.last();
+                const QPointF a = last.to - last.from;
+                const QPointF b = m.to - m.from;
+                const bool collinear = std::fabs(a.x() * b.y() - a.y() * b.x()) < 1e-9
+                                       && QPointF::dotProduct(a, b) > 0;
+                if (last.power == power && last.to == m.from && collinear) {
+                    last.to = m.to;
+                    return;
+                }
+            }
+            burns.append({m.from, m.to, power});
+        });
+    }
+    return burns;
+}
+
 } // namespace
 
 class TestJkGcode : public QObject
@@ -110,6 +163,8 @@ private slots:
     void refusals();
     void goldenJobs_data();
     void goldenJobs();
+    void rasterWordsKeepTheBurns_data();
+    void rasterWordsKeepTheBurns();
     void randomDesignsAreGrblValid();
 
 private:
@@ -257,6 +312,55 @@ void TestJkGcode::goldenJobs()
     const QByteArray expected = readFileBytes(golden);
     QVERIFY2(!expected.isEmpty(), qPrintable(golden));
     QCOMPARE(job, expected);
+}
+
+void TestJkGcode::rasterWordsKeepTheBurns_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("power");
+    QTest::addColumn<double>("angle");
+    QTest::addColumn<double>("overscan");
+    QTest::newRow("dither") << int(DitherMode) << 80 << 0.0 << 0.0;
+    QTest::newRow("dither, overscan, turned") << int(DitherMode) << 55 << 30.0 << 1.5;
+    QTest::newRow("threshold") << int(ThresholdMode) << 100 << 0.0 << 0.0;
+    QTest::newRow("grey") << int(GreyscaleMode) << 80 << 0.0 << 0.0;
+    QTest::newRow("grey at 30 %, turned") << int(GreyscaleMode) << 30 << 12.0 << 0.5;
+}
+
+void TestJkGcode::rasterWordsKeepTheBurns()
+{
+    QFETCH(int, mode);
+    QFETCH(int, power);
+    QFETCH(double, angle);
+    QFETCH(double, overscan);
+    JobDesign design;
+    TuCeng *layer = design.addLayer(0, true);
+    layer->moshi = mode;
+    layer->gonglv = power;
+    layer->jianju = 0.1;
+    layer->saomiao = overscan;
+    Jk_tu_yuan *item = design.addBitmap(grainyPhoto(60, 40), 0, QPointF(12.5, -30));
+    item->setTransform(QTransform().rotate(angle));
+
+    Jk_gcode generator;
+    generator.setRasterWords(false);
+    const QByteArray plain = run(design, generator);
+    generator.setRasterWords(true);
+    const QByteArray shortJob = run(design, generator);
+    QCOMPARE(grblProblem(shortJob), QString());
+    QVERIFY(!shortJob.contains(".00") && !shortJob.contains("-0\n"));
+
+    const QVector<Burn> before = burnsOf(plain);
+    const QVector<Burn> after = burnsOf(shortJob);
+    QVERIFY(before.size() > 100);
+    QCOMPARE(after.size(), before.size());
+    for (int i = 0; i < before.size(); ++i) {
+        QCOMPARE(after[i].from, before[i].from);
+        QCOMPARE(after[i].to, before[i].to);
+        QCOMPARE(after[i].power, before[i].power);
+    }
+    QVERIFY2(shortJob.size() < plain.size() * 0.8,
+             qPrintable(QStringLiteral("%1 -> %2").arg(plain.size()).arg(shortJob.size())));
 }
 
 void TestJkGcode::randomDesignsAreGrblValid()

@@ -1,0 +1,53 @@
+// Raster jobs sized for the wire: short number words, power in the steps the
+// controller can produce, and the byte rate a raster needs at its feed.
+//
+// Raster lines are many and short, so their words are written as short as the
+// controller reads them: no trailing zeros (X224.1, X224, never "-0") and S as
+// a whole number. GRBL turns S into one of `steps` PWM levels spread evenly
+// from sMin ($31) to sMax ($30); greys whose power falls on the same level
+// burn alike and are written with the same S. Pure functions, reentrant.
+#pragma once
+
+#include "gcode_number.h"
+
+#include <array>
+
+namespace lumitra {
+
+// A serial link at 115,200 baud carries ten bits per byte.
+constexpr double kSerialBytesPerSecond = 11520.0;
+
+struct PowerSteps
+{
+    double sMin = 0.0;    // S of the lowest PWM level ($31)
+    double sMax = 1000.0; // S of full PWM ($30)
+    int steps = 256;      // PWM levels from sMin to sMax
+};
+
+// The whole-number S that makes the controller produce the same PWM level as
+// `s`: 0 stays 0 (laser off), anything else falls on the nearest level.
+int quantisedPower(double s, const PowerSteps &steps);
+
+// S for every grey level (0 black .. 255 white) of a layer burning at `power`
+// (S at grey 0): quantisedPower(power x (255 - grey) / 255).
+std::array<int, 256> greyPowerTable(double power, const PowerSteps &steps);
+
+// Drops trailing zeros after the point, and the point when nothing follows it,
+// from a packed fixed-point text ("224.10" -> "224.1", "5.00" -> "5").
+void trimPacked(PackedNumber &number);
+
+// What a raster section asks of the link.
+struct WireLoad
+{
+    double bytesPerSecond = 0.0; // needed at the section's feed
+    double fastestFeed = 0.0;    // mm/min the link can feed (whole, rounded down)
+    bool exceeds = false;        // more than the link carries
+};
+
+// `bytes` of G-code spread over `feedLength` mm of moves at `feed` mm/min,
+// against a link carrying `linkBytesPerSecond`. Nothing exceeds when the
+// section has no length or no feed.
+WireLoad wireLoad(double bytes, double feedLength, double feed,
+                  double linkBytesPerSecond = kSerialBytesPerSecond);
+
+} // namespace lumitra
