@@ -13,6 +13,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -75,6 +76,8 @@ private slots:
     void saveGcode();
     void runPlacesTheJob_data();
     void runPlacesTheJob();
+    void wireQuestion_data();
+    void wireQuestion();
 
 private:
     QList<MessageRequest> m_messages;
@@ -304,6 +307,82 @@ void TestGcodeUi::runPlacesTheJob()
         return;
     }
     QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains(job));
+}
+
+void TestGcodeUi::wireQuestion_data()
+{
+    QTest::addColumn<bool>("serial");
+    QTest::addColumn<int>("feed");
+    QTest::addColumn<int>("answer"); // 1 slower, 2 run anyway, 0 cancel
+    QTest::addColumn<bool>("asked");
+    QTest::addColumn<bool>("runs");
+    QTest::addColumn<bool>("slowed");
+    QTest::newRow("WiFi, fast") << false << 30000 << 1 << false << true << false;
+    QTest::newRow("serial, slow enough") << true << 1000 << 1 << false << true << false;
+    QTest::newRow("serial, fast, slower") << true << 30000 << 1 << true << true << true;
+    QTest::newRow("serial, fast, run anyway") << true << 30000 << 2 << true << true << false;
+    QTest::newRow("serial, fast, cancel") << true << 30000 << 0 << true << false << false;
+}
+
+void TestGcodeUi::wireQuestion()
+{
+    QFETCH(bool, serial);
+    QFETCH(int, feed);
+    QFETCH(int, answer);
+    QFETCH(bool, asked);
+    QFETCH(bool, runs);
+    QFETCH(bool, slowed);
+    JobDesign design;
+    TuCeng *layer = design.addLayer(0, true);
+    layer->moshi = GreyscaleMode;
+    layer->jianju = 0.1;
+    layer->sudu = feed;
+    layer->mingcheng = QStringLiteral("Photo");
+    QImage ramp(200, 20, QImage::Format_Grayscale8);
+    for (int y = 0; y < ramp.height(); ++y) {
+        for (int x = 0; x < ramp.width(); ++x)
+            ramp.scanLine(y)[x] = uchar((x * 37 + y * 11) % 250);
+    }
+    Jk_tu_yuan *item = design.addBitmap(ramp, 0, QPointF(10, -30));
+    item->setTransform(
+        QTransform::fromScale(0.1 / Jk_tu_yuan::kPixelMm, 0.1 / Jk_tu_yuan::kPixelMm));
+
+    m_answer = answer;
+    GcodeJobController controller(nullptr);
+    controller.setLayerList(&design.layers);
+    controller.setSerialLinkSource([serial] { return serial; });
+    QSignalSpy ready(&controller, &GcodeJobController::runFileReady);
+    QCOMPARE(controller.prepareRun(design.items()), runs);
+    QCOMPARE(ready.count(), runs ? 1 : 0);
+    QCOMPARE(m_messages.size(), asked ? 1 : 0);
+
+    const QByteArray job = readFileBytes(Jk_gcode::defaultJobPath());
+    const QRegularExpression feedWord(QStringLiteral("F(\\d+)\\n"));
+    const QRegularExpressionMatch written = feedWord.match(QString::fromLatin1(job));
+    QVERIFY(written.hasMatch());
+    const int used = written.captured(1).toInt();
+    if (asked) {
+        const MessageRequest &m = m_messages.first();
+        QCOMPARE(m.firstButton, QStringLiteral("降速"));
+        QCOMPARE(m.thirdButton, QStringLiteral("仍然运行"));
+        QCOMPARE(m.secondButton, QStringLiteral("取消"));
+        QVERIFY(m.message.contains(QStringLiteral("Photo")));
+        QVERIFY(m.message.contains(QStringLiteral("11520")));
+    }
+    if (!slowed) {
+        QCOMPARE(used, feed);
+        return;
+    }
+    // The offered feed is the one written, named in the question, and carried by the wire.
+    QVERIFY(used < feed);
+    QVERIFY(m_messages.first().message.contains(QStringLiteral(" %1 mm/min").arg(used)));
+    const Jk_gcode::RasterSection &section = controller.generator()->lastRasterSections().first();
+    QCOMPARE(section.feed, double(used));
+    QVERIFY(wireLoad(double(section.bytes), section.feedLength, section.feed).bytesPerSecond
+            <= kSerialBytesPerSecond);
+    // The slower feed was for that run only.
+    QVERIFY(controller.generator()->kai_shi_zhuan_huan(design.items(), QString()));
+    QVERIFY(readFileBytes(Jk_gcode::defaultJobPath()).contains("F30000\n"));
 }
 
 QTEST_MAIN(TestGcodeUi)
