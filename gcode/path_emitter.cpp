@@ -84,7 +84,7 @@ void PathEmitter::setRasterWords(bool on, const PowerSteps &steps)
     m_haveCachedY = false; // the cached text has the other form
     if (!on)
         return;
-    m_rasterPower.setShort(quantisedPower(m_layerPower, steps));
+    m_rasterPower.setShort(std::round(qMax(0.0, m_layerPower))); // whole, as the layer asks
     m_rasterZero.setShort(0.0);
     const std::array<int, 256> grey = greyPowerTable(m_layerPower, steps);
     for (int g = 0; g < 256; ++g)

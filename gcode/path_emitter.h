@@ -52,8 +52,8 @@ public:
     // `feedCap` (mm/min, when positive) lowers the speed of raster paths.
     void setLayer(const TuCeng &layer, double feedCap = 0.0);
     // Raster words (raster_words.h) for the paths that follow: numbers without
-    // trailing zeros, S whole and on the controller's power steps. Off, every
-    // number has two decimals.
+    // trailing zeros, S whole (grey powers on the controller's power steps).
+    // Off, every number has two decimals.
     void setRasterWords(bool on, const PowerSteps &steps = PowerSteps());
     bool rasterWords() const { return m_raster; }
     // Length in mm of the moves at feed speed (burns and coasts) written so
