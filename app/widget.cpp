@@ -238,6 +238,9 @@ void Widget::setupMachine()
     tools->addActions(m_camera->actions());
     // Jobs start where the machine panel says (absolute, head, user origin).
     m_jobs->setJobStartSource([this] { return m_machine->jobStart(); });
+    // Over the serial wire a raster job is checked against what the wire carries.
+    m_jobs->setSerialLinkSource(
+        [] { return programState().connectionMode == lumitra::SerialLink; });
     // QR codes and barcodes land on the current page like any import.
     auto *barcodes = new BarcodeActions(this);
     connect(barcodes, &BarcodeActions::itemsCreated, this,

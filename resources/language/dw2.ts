@@ -581,6 +581,22 @@ Fortfahren?</translation>
         <source>当前位置未知,请先连接设备!</source>
         <translation>Die Kopfposition ist unbekannt. Bitte zuerst die Maschine verbinden!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: braucht %2 Byte/s, höchstens %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>Die serielle Verbindung überträgt nur %1 Byte/s; bei dieser Geschwindigkeit reicht das für die Rasterdaten nicht:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Trotzdem starten</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -581,6 +581,22 @@
         <source>当前位置未知,请先连接设备!</source>
         <translation>Положение головы неизвестно. Сначала подключите станок!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: нужно %2 байт/с, не быстрее %3 мм/мин</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>Последовательный порт передаёт только %1 байт/с; на этой скорости растровые данные не успевают:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Медленнее</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Всё равно запустить</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>纠错等级：</source>
-        <translation>Correction d'erreur&#xa0;:</translation>
+        <translation>Correction d&apos;erreur&#xa0;:</translation>
     </message>
     <message>
         <source>显示文字</source>
@@ -579,7 +579,23 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>当前位置未知,请先连接设备!</source>
-        <translation>La position de la tête est inconnue. Connectez d'abord la machine&#xa0;!</translation>
+        <translation>La position de la tête est inconnue. Connectez d&apos;abord la machine&#xa0;!</translation>
+    </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1 : %2 octets/s nécessaires, au plus %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>La liaison série ne transmet que %1 octets par seconde ; à cette vitesse, les données raster ne suivent pas :</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Ralentir</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Lancer quand même</translation>
     </message>
 </context>
 <context>
@@ -1143,7 +1159,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>不是参数库文件</source>
-        <translation>Ce n'est pas un fichier de bibliothèque de paramètres</translation>
+        <translation>Ce n&apos;est pas un fichier de bibliothèque de paramètres</translation>
     </message>
     <message>
         <source>参数库版本不支持</source>
@@ -1155,7 +1171,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>无法写入文件:%1</source>
-        <translation>Impossible d'écrire le fichier&#xa0;: %1</translation>
+        <translation>Impossible d&apos;écrire le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>无法读取文件:%1</source>
@@ -1222,7 +1238,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>请先选择一个图层</source>
-        <translation>Choisissez d'abord un calque</translation>
+        <translation>Choisissez d&apos;abord un calque</translation>
     </message>
     <message>
         <source>请输入名称</source>
@@ -1246,7 +1262,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>请先选择一个预设</source>
-        <translation>Choisissez d'abord un préréglage</translation>
+        <translation>Choisissez d&apos;abord un préréglage</translation>
     </message>
     <message>
         <source>已有同名预设</source>
@@ -1254,7 +1270,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>导入失败:%1</source>
-        <translation>Échec de l'importation&#xa0;: %1</translation>
+        <translation>Échec de l&apos;importation&#xa0;: %1</translation>
     </message>
     <message>
         <source>已添加%1个预设,替换%2个</source>
@@ -1262,7 +1278,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>导出失败:%1</source>
-        <translation>Échec de l'exportation&#xa0;: %1</translation>
+        <translation>Échec de l&apos;exportation&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1521,7 +1537,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>速度至少为5</source>
-        <translation>La vitesse doit être d'au moins 5</translation>
+        <translation>La vitesse doit être d&apos;au moins 5</translation>
     </message>
     <message>
         <source>尺寸或次数无效</source>
@@ -1992,7 +2008,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>条码库无法使用!</source>
-        <translation>La bibliothèque de codes-barres n'est pas disponible&#xa0;!</translation>
+        <translation>La bibliothèque de codes-barres n&apos;est pas disponible&#xa0;!</translation>
     </message>
     <message>
         <source>EAN-13 需要 12 或 13 位数字!</source>

@@ -581,6 +581,22 @@
         <source>当前位置未知,请先连接设备!</source>
         <translation>헤드 위치를 알 수 없습니다. 먼저 기기를 연결하세요!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: %2바이트/초 필요, 최대 %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>시리얼 연결은 초당 %1바이트만 전송합니다. 이 속도에서는 래스터 데이터가 따라가지 못합니다:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>속도 낮추기</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>그래도 실행</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -581,6 +581,22 @@ Continuar?</translation>
         <source>当前位置未知,请先连接设备!</source>
         <translation>A posição do cabeçote é desconhecida. Conecte a máquina primeiro!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: precisa de %2 bytes/s, no máximo %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>A conexão serial transmite só %1 bytes por segundo; nesta velocidade os dados raster não acompanham:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Reduzir velocidade</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Executar mesmo assim</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -581,6 +581,22 @@
         <source>当前位置未知,请先连接设备!</source>
         <translation>ヘッドの位置が不明です。先にマシンを接続してください。</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1：%2 バイト/秒が必要、最大 %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>シリアル接続は毎秒 %1 バイトしか送れません。この速度ではラスターデータが間に合いません：</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>減速</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>このまま実行</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -581,6 +581,22 @@
         <source>当前位置未知,请先连接设备!</source>
         <translation>Se desconoce la posición del cabezal. ¡Conecte primero la máquina!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: necesita %2 bytes/s, como máximo %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>La conexión serie solo transmite %1 bytes por segundo; a esta velocidad los datos ráster no llegan a tiempo:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Reducir velocidad</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Ejecutar igualmente</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

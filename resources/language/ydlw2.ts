@@ -581,6 +581,22 @@ Continuare?</translation>
         <source>当前位置未知,请先连接设备!</source>
         <translation>La posizione della testa è sconosciuta. Connetti prima la macchina!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: servono %2 byte/s, al massimo %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>La connessione seriale trasmette solo %1 byte al secondo; a questa velocità i dati raster non bastano:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Rallenta</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Avvia comunque</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

@@ -581,6 +581,22 @@ Continue?</translation>
         <source>当前位置未知,请先连接设备!</source>
         <translation>The head position is unknown. Connect the machine first!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: needs %2 bytes/s, at most %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>The serial link carries only %1 bytes per second; at this speed the raster data cannot keep up:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>Slow down</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>Run anyway</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>

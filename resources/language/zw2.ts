@@ -581,6 +581,22 @@
         <source>当前位置未知,请先连接设备!</source>
         <translation>当前位置未知,请先连接设备!</translation>
     </message>
+    <message>
+        <source>%1: 需要 %2 字节/秒, 最快 %3 mm/min</source>
+        <translation>%1: 需要 %2 字节/秒, 最快 %3 mm/min</translation>
+    </message>
+    <message>
+        <source>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</source>
+        <translation>串口每秒只能传输 %1 字节, 此速度下光栅数据传不完:</translation>
+    </message>
+    <message>
+        <source>降速</source>
+        <translation>降速</translation>
+    </message>
+    <message>
+        <source>仍然运行</source>
+        <translation>仍然运行</translation>
+    </message>
 </context>
 <context>
     <name>Gun_Zhou</name>
