@@ -1,6 +1,7 @@
 #include "application.h"
 
 #include "command_line.h"
+#include "grbl_time_estimator.h"
 #include "headless_camera.h"
 #include "headless_run.h"
 #include "headless_wifi_run.h"
@@ -14,6 +15,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLoggingCategory>
@@ -75,6 +77,31 @@ int runCameraPhoto(const CommandLine &cl)
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
     QTextStream err(stderr);
     return takeCameraPhotoHeadless(cl.cameraAddress, cl.output, err);
+}
+
+// --estimate FILE [--settings DUMP]: the job's running time as the
+// controller plans it, in seconds, on one line.
+int runEstimate(const CommandLine &cl)
+{
+    QTextStream err(stderr);
+    GrblMachineSettings machine;
+    if (!cl.settingsFile.isEmpty()) {
+        QFile dump(cl.settingsFile);
+        if (!dump.open(QIODevice::ReadOnly | QIODevice::Text)) {
+            err << "cannot read settings " << cl.settingsFile << ": " << dump.errorString() << '\n';
+            return 1;
+        }
+        machine = GrblMachineSettings::fromMap(
+            parseGrblSettingsDump(QString::fromLatin1(dump.readAll())));
+    }
+    QFile job(cl.estimateFile);
+    double seconds = 0.0;
+    if (!job.open(QIODevice::ReadOnly) || !GrblTimeEstimator::estimate(job, machine, &seconds)) {
+        err << "cannot read " << cl.estimateFile << ": " << job.errorString() << '\n';
+        return 1;
+    }
+    QTextStream(stdout) << QString::number(seconds, 'f', 3) << '\n';
+    return 0;
 }
 
 int runWindow(QApplication &app, const CommandLine &cl)
@@ -145,6 +172,8 @@ int run_application(int argc, char **argv)
         return runWifiSender(cl);
     case CommandLine::Camera:
         return runCameraPhoto(cl);
+    case CommandLine::Estimate:
+        return runEstimate(cl);
     case CommandLine::Exit:
     case CommandLine::Window:
         break;

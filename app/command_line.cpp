@@ -24,7 +24,9 @@ CommandLine parse_command_line(const QStringList &arguments)
                        "  --wifi HOST[:PORT] --run FILE [--ws-port N]\n"
                        "                             run a G-code file on a WiFi controller\n"
                        "  --camera HOST[:PORT] -o PHOTO.png\n"
-                       "                             save the straightened camera photo"));
+                       "                             save the straightened camera photo\n"
+                       "  --estimate FILE [--settings DUMP]\n"
+                       "                             print how many seconds a G-code file runs"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption exportOpt(QStringLiteral("export"),
@@ -53,6 +55,15 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("Address of a WiFi controller whose calibrated camera photo is saved to "
                        "-o (HTTP port 80 unless given)."),
         QStringLiteral("HOST[:PORT]"));
+    const QCommandLineOption estimateOpt(
+        QStringLiteral("estimate"),
+        QStringLiteral("G-code file whose running time (seconds) is printed."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption settingsOpt(
+        QStringLiteral("settings"),
+        QStringLiteral("Text file with the controller's $$ reply ($110=... lines) used by "
+                       "--estimate; the controller's defaults otherwise."),
+        QStringLiteral("DUMP"));
     const QCommandLineOption homeOpt(QStringLiteral("home"),
                                      QStringLiteral("Home the machine before the job."));
     parser.addOption(exportOpt);
@@ -79,6 +90,8 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(wifiOpt);
     parser.addOption(wsPortOpt);
     parser.addOption(cameraOpt);
+    parser.addOption(estimateOpt);
+    parser.addOption(settingsOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Design files to open in the window."),
                                  QStringLiteral("[files...]"));
@@ -109,6 +122,20 @@ CommandLine parse_command_line(const QStringList &arguments)
         result.message = text;
         return result;
     };
+    if (parser.isSet(estimateOpt)) {
+        if (exporting || running || parser.isSet(cameraOpt) || parser.isSet(homeOpt)
+            || parser.isSet(wsPortOpt) || parser.isSet(outputOpt))
+            return usage(QStringLiteral("--estimate is used alone, with an optional --settings"));
+        for (const QString &name : process_option_names())
+            if (parser.isSet(name))
+                return usage(QStringLiteral("--%1 is only used with --export").arg(name));
+        result.mode = CommandLine::Estimate;
+        result.estimateFile = parser.value(estimateOpt);
+        result.settingsFile = parser.value(settingsOpt);
+        return result;
+    }
+    if (parser.isSet(settingsOpt))
+        return usage(QStringLiteral("--settings is only used with --estimate"));
     if (exporting && running)
         return usage(QStringLiteral("--export and --run cannot be used together"));
     if (parser.isSet(cameraOpt)) {

@@ -9,7 +9,7 @@ namespace lumitra {
 // What the command line asks the one executable to do.
 struct CommandLine
 {
-    enum Mode { Window, Export, Run, Exit, WifiRun, Camera };
+    enum Mode { Window, Export, Run, Exit, WifiRun, Camera, Estimate };
     Mode mode = Window;
     int exitCode = 0; // for Exit: --help, --version or a usage error
     QString message;  // printed for Exit (stdout when exitCode is 0, else stderr)
@@ -33,6 +33,11 @@ struct CommandLine
     // --camera HOST[:PORT] -o PHOTO: the board whose straightened camera
     // photo is written to `output`.
     QString cameraAddress;
+
+    // --estimate FILE [--settings DUMP]: the G-code file to time, and a text
+    // file holding the controller's "$$" reply (its defaults when empty).
+    QString estimateFile;
+    QString settingsFile;
 
     // Window mode: design files named on the command line are opened.
     QStringList filesToOpen;

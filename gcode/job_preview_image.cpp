@@ -1,10 +1,12 @@
 #include "job_preview_image.h"
 
+#include "grbl_time_estimator.h"
+
 #include <QPainter>
 #include <algorithm>
 
 JobPreview renderJobPreview(QIODevice &job, const QRectF &area, double pixelsPerMm, int maxSide,
-                            double maxPower)
+                            double maxPower, const GrblMachineSettings *machine)
 {
     JobPreview result;
     if (area.width() <= 0 || area.height() <= 0)
@@ -37,7 +39,8 @@ JobPreview renderJobPreview(QIODevice &job, const QRectF &area, double pixelsPer
     double penPower = -1.0;
 
     JobSimulator simulator;
-    result.ok = simulator.run(job, [&](const JobSimulator::Move &m) {
+    GrblTimeEstimator estimator(machine ? *machine : GrblMachineSettings());
+    auto draw = [&](const JobSimulator::Move &m) {
         if (!m.burning) {
             travelPainter.drawLine(m.from, m.to);
             return;
@@ -49,7 +52,16 @@ JobPreview renderJobPreview(QIODevice &job, const QRectF &area, double pixelsPer
             burnPainter.setPen(burn);
         }
         burnPainter.drawLine(m.from, m.to);
-    });
+    };
+    result.ok = job.isReadable();
+    QString line;
+    while (result.ok && readJobLine(job, &line)) {
+        simulator.feedLine(line, draw);
+        if (machine)
+            estimator.feedLine(line);
+    }
+    if (machine)
+        result.plannedSeconds = estimator.seconds();
     travelPainter.end();
     burnPainter.end();
 

@@ -30,7 +30,14 @@ void JobPreviewDialog::setPreview(const JobPreview &preview)
 {
     m_image = preview.image;
     const JobSimulator::Summary &s = preview.summary;
-    m_ui->time_Lab->setText(durationText(s.seconds));
+    if (preview.plannedSeconds >= 0.0) {
+        m_ui->time_Lab->setText(durationText(preview.plannedSeconds));
+        m_ui->time_Lab->setToolTip(
+            tr("含加速与转角减速；只按速度：%1").arg(durationText(s.seconds)));
+    } else {
+        m_ui->time_Lab->setText(durationText(s.seconds));
+        m_ui->time_Lab->setToolTip(QString());
+    }
     m_ui->lines_Lab->setText(QString::number(s.lines));
     m_ui->burn_Lab->setText(QStringLiteral("%1 mm").arg(s.burnLength, 0, 'f', 1));
     m_ui->travel_Lab->setText(QStringLiteral("%1 mm").arg(s.travelLength, 0, 'f', 1));

@@ -3,6 +3,7 @@
 #include "job_simulator.h"
 
 #include <QBuffer>
+#include <QLabel>
 #include <QtTest>
 
 // The job preview: following a job's modal state, its lengths and time, and
@@ -88,6 +89,43 @@ private slots:
         job.open(QIODevice::ReadOnly);
         const JobPreview p = renderJobPreview(job, QRectF(0, 0, 4000, 1000), 4.0, 800);
         QCOMPARE(p.image.size(), QSize(800, 200));
+    }
+
+    // With the machine's settings the preview also times the job as the
+    // controller plans it, and the dialog shows that time.
+    void plannedTime_data()
+    {
+        QTest::addColumn<bool>("withMachine");
+        QTest::addColumn<double>("planned");
+        QTest::addColumn<QString>("shown");
+        // 600 mm at 50 mm/s: feed alone says 12 s. With 1 mm/s² the head
+        // never reaches the feed (24.5 mm/s at the middle): 2·sqrt(600 / 1) = 49 s.
+        QTest::newRow("feed only") << false << -1.0 << QStringLiteral("12 秒");
+        QTest::newRow("planned") << true << 2.0 * std::sqrt(600.0) << QStringLiteral("49 秒");
+    }
+    void plannedTime()
+    {
+        QFETCH(bool, withMachine);
+        QFETCH(double, planned);
+        QFETCH(QString, shown);
+        QBuffer job;
+        job.setData("M4\nG1X600S500F3000\nM5\n");
+        job.open(QIODevice::ReadOnly);
+        GrblMachineSettings machine;
+        machine.maxRate[0] = 6000.0;
+        machine.acceleration[0] = 1.0;
+        const JobPreview p = renderJobPreview(job, QRectF(0, 0, 600, 10), 1.0, 600, 1000.0,
+                                              withMachine ? &machine : nullptr);
+        QVERIFY(p.ok);
+        QCOMPARE(p.summary.seconds, 12.0);
+        QVERIFY2(std::fabs(p.plannedSeconds - planned) < 1e-9,
+                 qPrintable(QString::number(p.plannedSeconds)));
+        JobPreviewDialog dialog;
+        dialog.setPreview(p);
+        auto *time = dialog.findChild<QLabel *>(QStringLiteral("time_Lab"));
+        QVERIFY(time);
+        QCOMPARE(time->text(), shown);
+        QCOMPARE(time->toolTip().isEmpty(), !withMachine);
     }
 
     void durationText_data()

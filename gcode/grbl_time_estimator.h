@@ -1,0 +1,72 @@
+#pragma once
+
+#include "grbl_machine_settings.h"
+
+#include <QString>
+#include <deque>
+
+class QIODevice;
+
+// Estimates how long the controller takes to run a job by planning it the way
+// the controller does: a look-ahead buffer of 16 blocks (15 usable), a
+// backward pass from a full stop at the end of the buffer and a forward pass
+// from the current speed, junction speeds from the junction deviation and the
+// angle between moves, and a trapezoid (or triangle) speed profile per block.
+// Rapids run at the maximum rates, limited per axis; everything that makes the
+// controller wait for its buffer to empty (dwell, spindle and coolant
+// changes, the program end, and power changes outside laser mode) brings the
+// machine to a stop. Plain class, any thread. Units: mm, mm/min, seconds.
+class GrblTimeEstimator
+{
+public:
+    explicit GrblTimeEstimator(const GrblMachineSettings &settings = GrblMachineSettings());
+
+    // Takes one line of G-code (without its end).
+    void feedLine(const QString &line);
+    // Runs what is still buffered to a stop and returns the whole time so far.
+    double seconds();
+    // Planned motion blocks so far (arcs count one per segment).
+    int blocks() const { return m_blocks; }
+
+    // Estimates a whole job; false when the device cannot be read.
+    static bool estimate(QIODevice &job, const GrblMachineSettings &settings, double *seconds);
+
+    static constexpr int kBufferBlocks = 16;
+
+private:
+    struct Block
+    {
+        double length = 0.0;     // mm
+        double accel = 0.0;      // mm/s², limited per axis
+        double nominal = 0.0;    // mm/s
+        double maxEntrySq = 0.0; // (mm/s)²
+    };
+
+    void addLine(const double target[3], bool rapid);
+    void addArc(const double target[3], const double offset[3], bool clockwise);
+    void synchronize();
+    void executeFront();
+
+    GrblMachineSettings m_settings;
+    std::deque<Block> m_queue; // planned, not yet run
+    double m_entrySq = 0.0;    // speed² at the start of the front block
+    double m_prevUnit[3] = {0.0, 0.0, 0.0};
+    double m_prevNominal = 0.0;
+    double m_seconds = 0.0;
+    int m_blocks = 0;
+
+    // Parser state.
+    double m_pos[3] = {0.0, 0.0, 0.0};
+    int m_motion = 0; // 0, 1, 2, 3
+    int m_plane[2] = {0, 1};
+    bool m_absolute = true;
+    double m_unit = 1.0; // mm per programmed unit
+    double m_feed = 0.0; // mm/min, 0 = none yet
+    double m_power = 0.0;
+    int m_spindle = 5; // 3, 4 or 5
+    int m_coolant = 9; // 7, 8 or 9
+};
+
+// The time of one block: from speed v0 to v1 (mm/s) over `length` mm, never
+// faster than `nominal`, accelerating and braking at `accel` mm/s².
+double trapezoid_seconds(double length, double v0, double v1, double nominal, double accel);
