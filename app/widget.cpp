@@ -9,6 +9,7 @@
 #include "edit_controller.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
+#include "grbl_machine_settings.h"
 #include "import_actions.h"
 #include "jiao_zhun.h"
 #include "jk_chang_jing.h"
@@ -206,7 +207,11 @@ void Widget::previewJob()
     const ProgramState &s = programState();
     auto *dialog = new JobPreviewDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height)));
+    // Timed with the controller's own motion planning once its settings are known.
+    const QMap<QString, QString> reported = m_machine->machineSettings();
+    const GrblMachineSettings machine = GrblMachineSettings::fromDeviceInfo(reported);
+    dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0,
+                                        reported.isEmpty() ? nullptr : &machine));
     dialog->show();
 }
 

@@ -8,6 +8,7 @@
 #include "message_box.h"
 #include "port_choice.h"
 #include "program_state.h"
+#include "settings_store.h"
 #include "ui_machine_panel.h"
 
 #include <QCoreApplication>
@@ -282,8 +283,28 @@ void MachineController::applyStatus(StatusLink link, const QString &text)
     }
 }
 
+QMap<QString, QString> MachineController::machineSettings() const
+{
+    QMap<QString, QString> settings;
+    const QStringList stored = lumitra::get_setting(QStringLiteral("JiQi/CanShu"))
+                                   .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &entry : stored) {
+        const int eq = entry.indexOf(QLatin1Char('='));
+        if (eq > 1)
+            settings.insert(entry.left(eq), entry.mid(eq + 1));
+    }
+    return settings;
+}
+
 void MachineController::onSettings(const QMap<QString, QString> &info)
 {
+    // Kept for the job-time estimate, also for a later run without a machine.
+    QStringList settingsText;
+    for (auto it = info.constBegin(); it != info.constEnd(); ++it)
+        if (it.key().startsWith(QLatin1Char('$')) && !it.value().contains(QLatin1Char(' ')))
+            settingsText << it.key() + QLatin1Char('=') + it.value();
+    if (!settingsText.isEmpty())
+        lumitra::set_setting(QStringLiteral("JiQi/CanShu"), settingsText.join(QLatin1Char(' ')));
     const lumitra::MachineTravel travel =
         lumitra::work_area_from_machine(lumitra::numbered_settings(info));
     Ui::MachinePanel &f = m_panel->form();

@@ -76,6 +76,10 @@ public:
     // The laser's maximum S value (setting $30 when the machine reported it).
     double laserMaxS() const { return m_laserMaxS; }
     double zTravel() const { return m_zTravel; }
+    // The controller's settings ("$110" -> "5000", ...) as it last reported
+    // them, in this run or an earlier one (kept in the settings file); empty
+    // when no controller ever reported them.
+    QMap<QString, QString> machineSettings() const;
     bool travelKnown() const { return m_travelKnown; }
 
 public slots:

@@ -821,6 +821,10 @@ Fortfahren?</translation>
         <source>%1 秒</source>
         <translation>%1 s</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>Mit Beschleunigung und Eckenbremsung; nur nach Vorschub: %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

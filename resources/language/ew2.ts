@@ -821,6 +821,10 @@
         <source>%1 秒</source>
         <translation>%1 с</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>С ускорением и торможением на углах; только по скорости: %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

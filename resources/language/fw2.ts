@@ -821,6 +821,10 @@ Continuer&#xa0;?</translation>
         <source>%1 秒</source>
         <translation>%1 s</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>Avec accélération et ralentissement aux angles ; à la seule vitesse : %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

@@ -821,6 +821,10 @@
         <source>%1 秒</source>
         <translation>%1초</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>가속과 코너 감속 포함; 속도만으로는: %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

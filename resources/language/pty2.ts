@@ -821,6 +821,10 @@ Continuar?</translation>
         <source>%1 秒</source>
         <translation>%1 s</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>Com aceleração e desaceleração nos cantos; só pela velocidade: %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

@@ -821,6 +821,10 @@ Continuare?</translation>
         <source>%1 秒</source>
         <translation>%1 s</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>Con accelerazione e rallentamento agli angoli; solo a velocità: %1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

@@ -821,6 +821,10 @@
         <source>%1 秒</source>
         <translation>%1 秒</translation>
     </message>
+    <message>
+        <source>含加速与转角减速；只按速度：%1</source>
+        <translation>含加速与转角减速；只按速度：%1</translation>
+    </message>
 </context>
 <context>
     <name>LayerRowsPanel</name>

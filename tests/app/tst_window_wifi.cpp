@@ -80,6 +80,15 @@ private slots:
                                 [](const QString &c) { return c.startsWith("$J=G91 G21 F"); }));
         QVERIFY(m_asked.requests.isEmpty());
 
+        // The board's settings are kept for the job-time estimate, also for
+        // the next run without a board.
+        QTRY_VERIFY(w.machineController()->machineSettings().contains(QStringLiteral("$110")));
+        {
+            Widget later;
+            QCOMPARE(later.machineController()->machineSettings(),
+                     w.machineController()->machineSettings());
+        }
+
         // Disconnecting by the button is quiet and leaves the window usable.
         child<QPushButton>(&w, "wifi_Btn")->click();
         QCOMPARE(programState().connectionMode, int(NotConnected));
