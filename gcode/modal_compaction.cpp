@@ -95,9 +95,19 @@ inline char *writeWord(char *out, char letter, const Value &value)
     return out + value.length;
 }
 
+// Slots of the axis words, which increments never drop.
+constexpr int kFirstAxisSlot = 1;
+constexpr int kLastAxisSlot = 3;
+
+// True when `value` is the text "9" followed by `digit`.
+inline bool isNinety(const Value &value, char digit)
+{
+    return value.length == 2 && value.text[0] == '9' && value.text[1] == digit;
+}
+
 // Rebuilds the G line at `p` up to its line break or `end` into `out`.
-// Returns the end of the line; `out` is advanced.
-const char *rebuildLine(const char *p, const char *end, Value *last, char *&out)
+// Returns the end of the line; `out` is advanced. `relative` follows G90/G91.
+const char *rebuildLine(const char *p, const char *end, Value *last, bool &relative, char *&out)
 {
     Value value;
     while (p < end && *p != '\n') {
@@ -112,7 +122,17 @@ const char *rebuildLine(const char *p, const char *end, Value *last, char *&out)
             continue;
         }
         const int slot = kSlots[letter];
-        if (slot >= 0 && !(value == last[slot])) {
+        if (slot == 0 && isNinety(value, '1')) {
+            relative = true;
+        } else if (slot == 0 && isNinety(value, '0') && relative) {
+            relative = false;
+            // The remembered axis texts were positions before the increments.
+            for (int axis = kFirstAxisSlot; axis <= kLastAxisSlot; ++axis)
+                last[axis] = Value();
+        }
+        if (relative && slot >= kFirstAxisSlot && slot <= kLastAxisSlot) {
+            out = writeWord(out, char('A' + letter), value); // every increment moves
+        } else if (slot >= 0 && !(value == last[slot])) {
             last[slot] = value;
             out = writeWord(out, char('A' + letter), value);
         }
@@ -130,6 +150,7 @@ void appendCompacted(const char *text, int size, QByteArray &out)
     out.resize(start + size + 1 + kSlack);
     char *write = out.data() + start;
     Value last[6];
+    bool relative = false;
 
     const char *p = text;
     const char *end = text + size;
@@ -140,7 +161,7 @@ void appendCompacted(const char *text, int size, QByteArray &out)
         }
         const char *lineEnd;
         if (*p == 'G') {
-            lineEnd = rebuildLine(p, end, last, write);
+            lineEnd = rebuildLine(p, end, last, relative, write);
         } else {
             lineEnd = static_cast<const char *>(std::memchr(p, '\n', size_t(end - p)));
             if (!lineEnd)

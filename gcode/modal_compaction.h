@@ -8,6 +8,9 @@
 //  - G, X, Y, Z, S and F each remember the text of their last value; a word
 //    whose value text equals it is dropped, otherwise it is kept and
 //    remembered; words with any other letter are dropped from G lines;
+//  - after a G91 word (increments), X, Y and Z words are always kept and not
+//    remembered, since a repeated increment is another move; a G90 word ends
+//    that and forgets the remembered X, Y and Z;
 //  - every kept or rebuilt line ends with "\n" (a G line whose words all went
 //    becomes an empty line).
 // Comparison is on the text ("5.00" and "5.0" differ). The remembered values

@@ -56,10 +56,14 @@ Q_ALWAYS_INLINE char *PathEmitter::writeWord(char *out, char letter, const Numbe
 
 PathEmitter::PathEmitter(JobOutput &output, const RotarySettings &rotary,
                          const std::atomic_bool *cancel)
-    : m_output(output), m_cancel(cancel), m_pathBump(rotaryPathBump(rotary))
+    : m_output(output), m_cancel(cancel), m_pathBump(rotaryPathBump(rotary)),
+      m_relativeAllowed(!rotary.rewrites())
 {
     m_buffer.resize(2 * kFlushThreshold);
     m_xCache.resize(size_t(1) << kXCacheBits);
+    m_increments.resize(size_t(2 * kIncrementCache));
+    for (int d = -kIncrementCache + 1; d < kIncrementCache; ++d)
+        m_increments[size_t(d + kIncrementCache)].setShort(double(d) / 100.0);
     setLayer(TuCeng());
 }
 
@@ -99,7 +103,7 @@ char *PathEmitter::reserve(size_t room)
     return m_buffer.data() + m_used;
 }
 
-Q_ALWAYS_INLINE void PathEmitter::formatX(double x, NumberText &out)
+Q_ALWAYS_INLINE void PathEmitter::formatX(double x, NumberText &out, qint64 &hundredths)
 {
     quint64 bits;
     std::memcpy(&bits, &x, sizeof bits);
@@ -110,13 +114,54 @@ Q_ALWAYS_INLINE void PathEmitter::formatX(double x, NumberText &out)
     if (slotBits == bits) {
         out.wide = false;
         out.packed = slot.text;
+        hundredths = slot.hundredths;
         return;
     }
     out.set(x);
     if (!out.wide) {
+        hundredths = packedHundredths(out.packed);
         slot.value = x;
         slot.text = out.packed;
+        slot.hundredths = hundredths;
+    } else {
+        hundredths = std::llround(x * 100.0); // only relative raster rows use it
     }
+}
+
+const PathEmitter::NumberText &PathEmitter::incrementText(qint64 delta)
+{
+    if (delta > -kIncrementCache && delta < kIncrementCache)
+        return m_increments[size_t(delta + kIncrementCache)];
+    m_wideIncrement.setShort(double(delta) / 100.0);
+    return m_wideIncrement;
+}
+
+char *PathEmitter::writeRelativeWords(char *p, qint64 x, qint64 y)
+{
+    if (x != m_atX)
+        p = writeWord(p, 'X', incrementText(x - m_atX));
+    if (y != m_atY)
+        p = writeWord(p, 'Y', incrementText(y - m_atY));
+    return p;
+}
+
+void PathEmitter::enterRelative()
+{
+    if (m_relative)
+        return;
+    appendRaw(QByteArrayLiteral("G91\n"));
+    m_relative = true;
+}
+
+void PathEmitter::leaveRelative()
+{
+    if (!m_relative)
+        return;
+    appendRaw(QByteArrayLiteral("G90\n"));
+    m_relative = false;
+    // Absolute words written from here on must not be taken as repeats of
+    // the ones before the increments.
+    m_keptX.valid = m_keptY.valid = false;
 }
 
 void PathEmitter::setShift(const QPointF &machineShift)
@@ -132,17 +177,19 @@ void PathEmitter::writeLine(char motion, double x, double y, const NumberText *p
         x += m_shiftX;
         y += m_shiftY;
     }
+    // A relative path taken up again after a flush.
+    if (m_pathRelative && !m_relative)
+        enterRelative();
     char *start = reserve(kLineRoom);
     start[0] = 'G';
     start[1] = motion;
     char *p = start + 2;
 
     NumberText xText;
-    formatX(x, xText);
+    qint64 xHundredths = 0;
+    formatX(x, xText, xHundredths);
     if (m_raster && !xText.wide)
         trimPacked(xText.packed);
-    if (m_keptX.keep(xText))
-        p = writeWord(p, 'X', xText);
     if (!m_haveCachedY || y != m_cachedY) {
         m_cachedY = y;
         m_haveCachedY = true;
@@ -150,11 +197,21 @@ void PathEmitter::writeLine(char motion, double x, double y, const NumberText *p
             m_yText.setShort(-y);
         else
             m_yText.set(-y);
+        m_yHundredths = m_yText.wide ? std::llround(-y * 100.0) : packedHundredths(m_yText.packed);
     }
-    if (m_keptY.keep(m_yText))
-        p = writeWord(p, 'Y', m_yText);
-    // Full line: "G?X" x "Y" y ["S" s "F" f] "\n".
-    m_fullLength += size_t(3 + xText.length() + 1 + m_yText.length() + 1);
+    if (m_relative) {
+        p = writeRelativeWords(p, xHundredths, m_yHundredths);
+    } else {
+        if (m_keptX.keep(xText))
+            p = writeWord(p, 'X', xText);
+        if (m_keptY.keep(m_yText))
+            p = writeWord(p, 'Y', m_yText);
+    }
+    m_atX = xHundredths;
+    m_atY = m_yHundredths;
+    // Full line: "G?X" x "Y" y ["S" s "F" f] "\n" (increments: as written).
+    m_fullLength +=
+        m_relative ? size_t(p - start + 1) : size_t(3 + xText.length() + 1 + m_yText.length() + 1);
     if (power) {
         if (m_keptS.keep(*power))
             p = writeWord(p, 'S', *power);
@@ -187,6 +244,7 @@ void PathEmitter::elementDone()
 
 void PathEmitter::flush()
 {
+    leaveRelative(); // every piece ends in absolute mode
     if (m_used > 0)
         m_output.writePiece(m_buffer.data(), int(m_used));
     m_used = 0;
@@ -198,10 +256,12 @@ void PathEmitter::flush()
 void PathEmitter::beginPath()
 {
     m_index = 0;
+    m_pathRelative = false;
 }
 
 void PathEmitter::endPath()
 {
+    m_pathRelative = false;
     flush();
 }
 
@@ -212,6 +272,11 @@ void PathEmitter::travel(double x, double y)
     writeLine('0', x, y, m_raster ? &m_rasterPower : &m_power);
     if (m_index == 0 && !m_pathBump.isEmpty())
         appendRaw(m_pathBump);
+    // A raster path goes on in increments from its first move.
+    if (m_raster && m_relativeAllowed && !m_pathRelative) {
+        m_pathRelative = true;
+        enterRelative();
+    }
     elementDone();
 }
 

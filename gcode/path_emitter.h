@@ -54,6 +54,15 @@ public:
     // Raster words (raster_words.h) for the paths that follow: numbers without
     // trailing zeros, S whole (grey powers on the controller's power steps).
     // Off, every number has two decimals.
+    //
+    // With raster words on (and no rotary rewrite, whose per-number rounding
+    // would add up), a path's first move is written in absolute coordinates
+    // and the rest of it as increments after "G91": a 0.1 mm pixel is "X.1"
+    // instead of "X224.13". Each increment is the difference of two positions
+    // rounded to the hundredth, so the sum of any number of them lands exactly
+    // where the absolute line would. The buffer returns to "G90" before every
+    // flush (and takes up "G91" again after it inside a path), so each piece
+    // of the job starts and ends in absolute mode.
     void setRasterWords(bool on, const PowerSteps &steps = PowerSteps());
     bool rasterWords() const { return m_raster; }
     // Length in mm of the moves at feed speed (burns and coasts) written so
@@ -110,11 +119,19 @@ private:
     {
         double value = std::nan(""); // never equal: an empty slot
         PackedNumber text;
+        qint64 hundredths = 0; // the text's value in hundredths
     };
+    // Increments of up to this many hundredths (either sign) have their text
+    // made once.
+    static constexpr int kIncrementCache = 2048;
     static constexpr int kXCacheBits = 12;
 
-    void formatX(double x, NumberText &out);
+    void formatX(double x, NumberText &out, qint64 &hundredths);
     void writeLine(char motion, double x, double y, const NumberText *power);
+    char *writeRelativeWords(char *p, qint64 x, qint64 y);
+    const NumberText &incrementText(qint64 delta);
+    void enterRelative();
+    void leaveRelative();
     static char *writeWord(char *out, char letter, const NumberText &value);
     void appendRaw(const QByteArray &text);
     char *reserve(size_t room);
@@ -142,6 +159,15 @@ private:
     NumberText m_rasterGrey[256];
     NumberText m_rasterFeed;
     double m_feedLength = 0.0;
+    // Relative raster rows.
+    const bool m_relativeAllowed;         // off under the rotary rewrite
+    bool m_relative = false;              // "G91" is in force in the buffer
+    bool m_pathRelative = false;          // the current path continues in increments
+    qint64 m_atX = 0;                     // where the last line left the head, in
+    qint64 m_atY = 0;                     // hundredths of the X and Y words
+    qint64 m_yHundredths = 0;             // m_yText's value
+    std::vector<NumberText> m_increments; // texts of small increments
+    NumberText m_wideIncrement;
     double m_lastX = 0.0; // where the last line went (scene)
     double m_lastY = 0.0;
     std::vector<char> m_buffer;

@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 #include <cmath>
+#include <cstring>
 
 namespace lumitra {
 
@@ -47,6 +48,40 @@ void trimPacked(PackedNumber &number)
     number.low = keep(number.low, n);
     number.high = keep(number.high, n - 8);
     number.length = n;
+    // A zero alone before the point goes: "0.5" -> ".5", "-0.5" -> "-.5".
+    const int zeroAt = charAt(0) == '-' ? 1 : 0;
+    if (n > zeroAt + 1 && charAt(zeroAt) == '0' && charAt(zeroAt + 1) == '.') {
+        char text[16] = {};
+        for (int i = 0, o = 0; i < n; ++i) {
+            if (i != zeroAt)
+                text[o++] = char(charAt(i));
+        }
+        std::memcpy(&number.low, text, 8);
+        std::memcpy(&number.high, text + 8, 8);
+        number.length = n - 1;
+    }
+}
+
+qint64 packedHundredths(const PackedNumber &number)
+{
+    qint64 whole = 0;
+    int decimals = -1; // digits seen after the point; -1 before it
+    bool negative = false;
+    for (int i = 0; i < number.length; ++i) {
+        const char c = char((i < 8 ? number.low >> (8 * i) : number.high >> (8 * (i - 8))) & 0xff);
+        if (c == '-') {
+            negative = true;
+        } else if (c == '.') {
+            decimals = 0;
+        } else if (decimals < 2) {
+            whole = whole * 10 + (c - '0');
+            if (decimals >= 0)
+                ++decimals;
+        }
+    }
+    for (int d = qMax(decimals, 0); d < 2; ++d)
+        whole *= 10;
+    return negative ? -whole : whole;
 }
 
 WireLoad wireLoad(double bytes, double feedLength, double feed, double linkBytesPerSecond)

@@ -32,9 +32,13 @@ int quantisedPower(double s, const PowerSteps &steps);
 // (S at grey 0): quantisedPower(power x (255 - grey) / 255).
 std::array<int, 256> greyPowerTable(double power, const PowerSteps &steps);
 
-// Drops trailing zeros after the point, and the point when nothing follows it,
-// from a packed fixed-point text ("224.10" -> "224.1", "5.00" -> "5").
+// Drops trailing zeros after the point, the point when nothing follows it,
+// and a zero before the point ("224.10" -> "224.1", "5.00" -> "5",
+// "0.50" -> ".5", "-0.10" -> "-.1"): the controller reads ".5" as 0.5.
 void trimPacked(PackedNumber &number);
+
+// The value of a packed two-decimal text (trimmed or not) in hundredths.
+qint64 packedHundredths(const PackedNumber &number);
 
 // What a raster section asks of the link.
 struct WireLoad

@@ -12,8 +12,9 @@
 // mode is part of the time); the same photo at its imported size, 1016 mm;
 // the photo fitted in greyscale mode at 0.1 mm. Raster cases also print the
 // bytes of the raster, its burnt runs (moves that burn, found by simulating
-// the job), bytes per burnt run, and the bytes per second the raster needs at
-// its feed against a serial link's 11,520.
+// the job), bytes per burnt run, bytes per move line (burns, coasts and
+// travels alike), and the bytes per second the raster needs at its feed
+// against a serial link's 11,520.
 // Each prints the seconds spent in the generator (wall clock, and the CPU time
 // of the process, which other work on the machine disturbs less), MB of G-code
 // per second and the process's peak resident memory (VmHWM).
@@ -134,15 +135,24 @@ void photo(Design &d, bool natural, int mode = DitherMode)
 }
 
 // Burning moves of a job file, as the controller would run it.
-qint64 burntRuns(const QString &path)
+struct RunCount
+{
+    qint64 burnt = 0; // moves that burn
+    qint64 moves = 0; // every move: burns, coasts and travels
+};
+
+RunCount countRuns(const QString &path)
 {
     QFile file(path);
+    RunCount count;
     if (!file.open(QIODevice::ReadOnly))
-        return 0;
+        return count;
     JobSimulator sim;
-    qint64 runs = 0;
-    sim.run(file, [&runs](const JobSimulator::Move &m) { runs += m.burning; });
-    return runs;
+    sim.run(file, [&count](const JobSimulator::Move &m) {
+        count.burnt += m.burning;
+        ++count.moves;
+    });
+    return count;
 }
 
 int runCase(const QString &name, const QString &output, bool plainRaster)
@@ -184,12 +194,13 @@ int runCase(const QString &name, const QString &output, bool plainRaster)
                                .arg(megabytes / seconds, 0, 'f', 1)
                                .arg(peakMemory());
     for (const Jk_gcode::RasterSection &section : generator.lastRasterSections()) {
-        const qint64 runs = burntRuns(output);
+        const RunCount count = countRuns(output);
+        const qint64 runs = count.burnt;
         const lumitra::WireLoad load =
             lumitra::wireLoad(double(section.bytes), section.feedLength, section.feed);
         QTextStream(stdout) << QStringLiteral("%1  raster%2: %3 bytes, %4 burnt runs, %5 bytes "
-                                              "per run, %6 bytes/s at F%7 (link 11520; fastest "
-                                              "F%8)\n")
+                                              "per run, %9 bytes per move line, %6 bytes/s at "
+                                              "F%7 (link 11520; fastest F%8)\n")
                                    .arg(QString(), -6)
                                    .arg(plainRaster ? QStringLiteral(" (plain)") : QString())
                                    .arg(section.bytes)
@@ -197,7 +208,9 @@ int runCase(const QString &name, const QString &output, bool plainRaster)
                                    .arg(runs > 0 ? double(section.bytes) / runs : 0.0, 0, 'f', 2)
                                    .arg(load.bytesPerSecond, 0, 'f', 0)
                                    .arg(section.feed)
-                                   .arg(load.fastestFeed);
+                                   .arg(load.fastestFeed)
+                                   .arg(count.moves > 0 ? double(section.bytes) / count.moves : 0.0,
+                                        0, 'f', 2);
     }
     return 0;
 }

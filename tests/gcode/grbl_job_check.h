@@ -15,7 +15,8 @@
 // job passes, else "line N: reason" for the first problem.
 inline QString grblProblem(const QByteArray &job)
 {
-    static const QRegularExpression word(QStringLiteral("^([A-Z])(-?\\d+(?:\\.\\d+)?)"));
+    static const QRegularExpression word(
+        QStringLiteral("^([A-Z])(-?(?:\\d+(?:\\.\\d*)?|\\.\\d+))"));
     static const QSet<QString> gCodes = {"0", "1", "90", "91"};
     static const QSet<QString> mCodes = {"2", "4", "5", "8", "9", "30"};
     if (!job.isEmpty() && !job.endsWith('\n'))

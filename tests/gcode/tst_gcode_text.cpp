@@ -131,6 +131,9 @@ void TestGcodeText::compaction_data()
     QTest::newRow("points are part of the value")
         << QByteArray("G1X1.2.3\nG1X1.2.3\n") << QByteArray("G1X1.2.3\n\n");
     QTest::newRow("lowercase ignored") << QByteArray("G1x5X6\n") << QByteArray("G1X6\n");
+    QTest::newRow("increments are all kept, G90 forgets the axes")
+        << QByteArray("G0X5Y-2S0F900\nG91\nG1X.1S80\nG1X.1S0\nG1X.1\nG1X-.1Y.1\nG90\nG0X5Y-2\n")
+        << QByteArray("G0X5Y-2S0F900\nG91\nG1X.1S80\nX.1S0\nX.1\nX-.1Y.1\nG90\nG0X5Y-2\n");
 }
 
 void TestGcodeText::compaction()
@@ -151,6 +154,7 @@ void TestGcodeText::compactionAgreesWithWordPattern_data()
     QTest::newRow("motion words") << QByteArray("GXYSF0123456789.-\n\n") << 1;
     QTest::newRow("every kind of byte") << QByteArray("GXYZSFMIJ ;(xg012345.-\n\r\t") << 2;
     QTest::newRow("mostly digits") << QByteArray("G1X2.-.\n0Y9") << 3;
+    QTest::newRow("absolute and relative") << QByteArray("GGG9901XXYZ1.-\n") << 4;
 }
 
 void TestGcodeText::compactionAgreesWithWordPattern()

@@ -3,7 +3,9 @@
 #include "compaction_reference.h"
 #include "curve_sampling.h"
 #include "gcode_number.h"
+#include "grbl_job_check.h"
 #include "job_output.h"
+#include "job_simulator.h"
 #include "path_emitter.h"
 #include "tu_ceng.h"
 
@@ -69,6 +71,8 @@ private slots:
     void curveSamplesCarryNoPowerOrFeed();
     void flushesRepeatAllWords();
     void matchesCompactedFullText();
+    void rasterRowsInIncrementsLandExactly_data();
+    void rasterRowsInIncrementsLandExactly();
 };
 
 void TestPathEmitter::lines_data()
@@ -344,6 +348,115 @@ void TestPathEmitter::matchesCompactedFullText()
                                  .arg(got[i], want[i], i > 0 ? want[i - 1] : QString())));
     }
     QCOMPARE(got.size(), want.size());
+}
+
+void TestPathEmitter::rasterRowsInIncrementsLandExactly_data()
+{
+    QTest::addColumn<QPointF>("shift");
+    QTest::addColumn<int>("seed");
+    QTest::newRow("at the design's place") << QPointF() << 5;
+    QTest::newRow("moved to a job start") << QPointF(-13.337, 41.005) << 6;
+}
+
+void TestPathEmitter::rasterRowsInIncrementsLandExactly()
+{
+    // Rows of raster runs long enough for several flushes, at pixel borders
+    // that are not whole hundredths. Written as increments, every move must
+    // end where the absolute line would have put it (its coordinates rounded
+    // to the hundredth), with no drift however many increments add up, and
+    // every piece must leave the controller in absolute mode.
+    QFETCH(QPointF, shift);
+    QFETCH(int, seed);
+    QRandomGenerator rng{quint32(seed)};
+    enum Kind { Travel, Burn, Coast };
+    struct Step
+    {
+        double x, y;
+        Kind kind;
+    };
+    QVector<QVector<Step>> paths;
+    for (int p = 0; p < 3; ++p) {
+        QVector<Step> steps;
+        double y = -rng.generateDouble() * 100;
+        for (int row = 0; row < 120; ++row) {
+            double x = 3.3 + rng.generateDouble();
+            steps.append({x, y, Travel});
+            const int runs = 10 + rng.bounded(60);
+            for (int r = 0; r < runs; ++r) {
+                x += 0.0833 * (1 + rng.bounded(40)) * (row % 2 ? -1 : 1);
+                steps.append({x, y, rng.bounded(2) == 0 ? Burn : Coast});
+            }
+            y -= 0.0833;
+        }
+        paths.append(steps);
+    }
+    Rig rig(layer(80, 6000));
+    rig.emitter.setRasterWords(true);
+    rig.emitter.setShift(shift);
+    for (const QVector<Step> &steps : qAsConst(paths)) {
+        rig.emitter.beginPath();
+        for (const Step &s : steps) {
+            if (s.kind == Travel)
+                rig.emitter.travel(s.x, s.y);
+            else if (s.kind == Burn)
+                rig.emitter.burn(s.x, s.y);
+            else
+                rig.emitter.coast(s.x, s.y);
+        }
+        rig.emitter.endPath();
+    }
+    const QByteArray job = rig.finish();
+    QCOMPARE(grblProblem(job), QString());
+    QVERIFY(job.count("G91\n") > paths.size()); // flushes inside the paths
+    QVERIFY(job.endsWith("G90\n"));
+
+    // Every G91 is closed by a G90 before the next one and at the end.
+    bool relative = false;
+    for (const QByteArray &l : job.split('\n')) {
+        if (l == "G91") {
+            QVERIFY(!relative);
+            relative = true;
+        } else if (l == "G90") {
+            QVERIFY(relative);
+            relative = false;
+        }
+    }
+    QVERIFY(!relative);
+
+    // Follow the job and compare every move's end with the absolute position.
+    auto hundredths = [](const QPointF &p) {
+        return qMakePair(std::llround(p.x() * 100), std::llround(p.y() * 100));
+    };
+    QVector<QPair<long long, long long>> got, expected;
+    JobSimulator sim;
+    for (const QByteArray &l : job.split('\n')) {
+        sim.feedLine(QString::fromLatin1(l), [&](const JobSimulator::Move &m) {
+            if (got.isEmpty() || got.last() != hundredths(m.to))
+                got.append(hundredths(m.to));
+        });
+    }
+    // Zero-length moves leave no line: compare the distinct positions in order.
+    for (const QVector<Step> &steps : qAsConst(paths)) {
+        for (const Step &s : steps) {
+            const auto h = qMakePair(std::llround(std::round((s.x + shift.x()) * 100)),
+                                     std::llround(std::round(-(s.y - shift.y()) * 100)));
+            if (expected.isEmpty() || expected.last() != h)
+                expected.append(h);
+        }
+    }
+    QCOMPARE(got.size(), expected.size());
+    for (int i = 0; i < got.size(); ++i) {
+        if (got[i] != expected[i])
+            QFAIL(qPrintable(QStringLiteral("move %1 ends at %2,%3 instead of %4,%5")
+                                 .arg(i)
+                                 .arg(got[i].first)
+                                 .arg(got[i].second)
+                                 .arg(expected[i].first)
+                                 .arg(expected[i].second)));
+    }
+    // Increments are short: the lines average under nine bytes.
+    const int lines = job.count('\n');
+    QVERIFY2(job.size() < lines * 9, qPrintable(QString::number(double(job.size()) / lines)));
 }
 
 QTEST_GUILESS_MAIN(TestPathEmitter)

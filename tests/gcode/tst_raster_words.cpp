@@ -4,6 +4,7 @@
 #include "raster_words.h"
 
 #include <QtTest>
+#include <cmath>
 #include <cstring>
 
 using namespace lumitra;
@@ -81,6 +82,9 @@ void TestRasterWords::shortNumbers_data()
     QTest::newRow("negative") << -35.5 << QByteArray("-35.5");
     QTest::newRow("rounded up to whole") << 9.999 << QByteArray("10");
     QTest::newRow("long") << 123456789.1 << QByteArray("123456789.1");
+    QTest::newRow("below one: no zero before the point") << 0.5 << QByteArray(".5");
+    QTest::newRow("small negative") << -0.1 << QByteArray("-.1");
+    QTest::newRow("hundredths") << 0.05 << QByteArray(".05");
 }
 
 void TestRasterWords::shortNumbers()
@@ -95,6 +99,8 @@ void TestRasterWords::shortNumbers()
     std::memcpy(text, &packed.low, 8);
     std::memcpy(text + 8, &packed.high, 8);
     QCOMPARE(QByteArray(text), expected); // nothing left past the end
+    // The text reads back as the value it stands for.
+    QCOMPARE(packedHundredths(packed), qint64(std::llround(expected.toDouble() * 100)));
 }
 
 void TestRasterWords::wireLoads_data()
