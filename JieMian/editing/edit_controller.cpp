@@ -273,6 +273,12 @@ void EditController::duplicate()
 
 void EditController::deleteSelection()
 {
+    // With the node tool on a chosen node, the delete key takes the node.
+    if (m_toolNumber == kNodeToolNumber && m_nodeTool->scene() == scene()
+        && m_nodeTool->chosenNode().isValid()) {
+        m_nodeTool->apply(NodeTool::DeleteNode);
+        return;
+    }
     const QList<Jk_tu_yuan *> items = selectedItems();
     if (!items.isEmpty())
         scene()->deleteItemsUndoable(items);

@@ -93,6 +93,7 @@ public slots:
     void copy();
     void paste();
     void duplicate();
+    // Deletes the selected items, or the chosen node while the node tool has one.
     void deleteSelection();
     void selectAll();
     void mirror(bool horizontal);

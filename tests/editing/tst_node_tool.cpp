@@ -329,6 +329,50 @@ private slots:
             QVERIFY(dynamic_cast<Jk_tu_yuan *>(g) || !g->isVisible() || g->zValue() < 1e5);
     }
 
+    // The window's Delete (the edit controller's action) takes the chosen
+    // node while the node tool has one, else the selected item.
+    void deleteActionTakesTheChosenNode()
+    {
+        QWidget window;
+        auto *pages = new DesignPages(&window);
+        EditController edit(pages, &window);
+        window.resize(900, 700);
+        window.show();
+        QTest::qWaitForWindowExposed(&window);
+        Jk_shi_tu *view = pages->currentView();
+        QVERIFY(view);
+        view->setTransform(QTransform::fromScale(4, 4));
+        view->centerOn(100, -100);
+        Jk_tu_yuan *item = rectItem(90, -110, 20, 10);
+        const QPainterPath before = item->path;
+        item->setSelected(true);
+        pages->currentScene()->addItemsUndoable({item});
+        edit.setTool(kNodeToolNumber);
+        QCOMPARE(edit.nodeTool()->item(), item);
+        const auto click = [view](const QPointF &at) {
+            const QPoint p = view->mapFromScene(at);
+            for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent e(type, p, view->viewport()->mapToGlobal(p), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+                QApplication::sendEvent(view->viewport(), &e);
+            }
+        };
+        click({110, -110}); // the corner at item (20, 0)
+        QCOMPARE(edit.nodeTool()->chosenNode(), (NodeRef{0, 1}));
+        edit.action(EditController::Delete)->trigger();
+        QCOMPARE(pages->currentScene()->designItemCount(), 1);
+        QCOMPARE(item->path.elementCount(), 4);
+        QCOMPARE(pages->currentScene()->undoStack()->undoText(), QStringLiteral("删除节点"));
+        pages->currentScene()->undoStack()->undo();
+        QVERIFY(sameElements(item->path, before));
+        // Nothing chosen: the item goes.
+        QTest::keyClick(view->viewport(), Qt::Key_Escape);
+        QVERIFY(!edit.nodeTool()->chosenNode().isValid());
+        edit.action(EditController::Delete)->trigger();
+        QCOMPARE(pages->currentScene()->designItemCount(), 0);
+    }
+
     void isToolNineOfTheEditController()
     {
         QWidget window;
@@ -346,6 +390,7 @@ private slots:
         edit.toolAction(0)->trigger();
         QVERIFY(!edit.nodeToolAction()->isChecked());
         QCOMPARE(edit.nodeTool()->scene(), nullptr);
+        edit.setTool(kNodeToolNumber);
         // Follows the current page.
         edit.setTool(kNodeToolNumber);
         Jk_chang_jing *first = pages->currentScene();
