@@ -384,6 +384,34 @@ private slots:
         QVERIFY(outlineGap(model.path(), circlePath()) < 1e-6);
     }
 
+    // The first node of a closed outline is also where its last segment ends:
+    // both move, and the handles at its two sides with it.
+    void movingTheFirstNodeOfAClosedOutline_data()
+    {
+        QTest::addColumn<QPainterPath>("path");
+        QTest::newRow("rectangle") << rectPath();
+        QTest::newRow("circle") << circlePath();
+    }
+    void movingTheFirstNodeOfAClosedOutline()
+    {
+        QFETCH(QPainterPath, path);
+        const QPointF delta(1.5, -2.25);
+        NodePath model(path);
+        QVERIFY(model.moveNode({0, 0}, model.nodePos({0, 0}) + delta));
+        const QPainterPath moved = model.path();
+        QCOMPARE(moved.elementCount(), path.elementCount());
+        const int n = path.elementCount();
+        const bool curves = path.elementAt(1).type == QPainterPath::CurveToElement;
+        for (int i = 0; i < n; ++i) {
+            const bool follows = i == 0 || i == n - 1 || (curves && (i == 1 || i == n - 2));
+            const QPointF a(path.elementAt(i).x, path.elementAt(i).y);
+            const QPointF b(moved.elementAt(i).x, moved.elementAt(i).y);
+            QVERIFY2(QLineF(a + (follows ? delta : QPointF()), b).length() < 1e-12,
+                     qPrintable(QString::number(i)));
+        }
+        QVERIFY(NodePath(moved).subpaths().first().closed);
+    }
+
     void findsNodesControlsAndSegments()
     {
         const NodePath model(openCurve());

@@ -190,6 +190,25 @@ private slots:
         QCOMPARE(c.curve->path.elementCount(), elements.size());
     }
 
+    // An item with a rotation and a scale: the node follows the pointer on the
+    // screen, and the outline stays in the item's own coordinates.
+    void dragOnATransformedItem()
+    {
+        Canvas c;
+        c.rect->setTransform(QTransform().rotate(90).scale(2, 2));
+        // Item (20, 0) -> scaled (40, 0) -> rotated (0, 40) -> scene (60, -80).
+        c.click({60 - 10, -120 + 0.1}); // on the edge from item (0,0) to (0,10)
+        QCOMPARE(c.tool.item(), c.rect);
+        const QPainterPath before = c.rect->path;
+        c.drag({60, -80}, {66, -80});
+        // Scene (6, 0) back through the rotation and the scale: item (0, -3).
+        QVERIFY2(samePath(c.rect->path,
+                          pathOf({{0, 0}, {20, -3}, {20, 10}, {0, 10}, {0, 0}}, false), 1e-9),
+                 qPrintable(describe(c.rect->path)));
+        c.stack()->undo();
+        QVERIFY(sameElements(c.rect->path, before));
+    }
+
     void clickWithoutMovingChangesNothing()
     {
         Canvas c;
