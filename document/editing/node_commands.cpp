@@ -9,31 +9,31 @@ namespace lumitra {
 
 QString nodeEditText(NodeEdit edit)
 {
-    const char *text = "编辑节点";
+    const char *text = QT_TRANSLATE_NOOP("EditCommand", "编辑节点");
     switch (edit) {
     case NodeEdit::MoveNode:
-        text = "移动节点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "移动节点");
         break;
     case NodeEdit::MoveControl:
-        text = "移动控制点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "移动控制点");
         break;
     case NodeEdit::AddNode:
-        text = "添加节点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "添加节点");
         break;
     case NodeEdit::DeleteNode:
-        text = "删除节点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "删除节点");
         break;
     case NodeEdit::Straight:
-        text = "转为直线";
+        text = QT_TRANSLATE_NOOP("EditCommand", "转为直线");
         break;
     case NodeEdit::Curved:
-        text = "转为曲线";
+        text = QT_TRANSLATE_NOOP("EditCommand", "转为曲线");
         break;
     case NodeEdit::Break:
-        text = "断开节点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "断开节点");
         break;
     case NodeEdit::Join:
-        text = "连接节点";
+        text = QT_TRANSLATE_NOOP("EditCommand", "连接节点");
         break;
     }
     return QCoreApplication::translate("EditCommand", text);

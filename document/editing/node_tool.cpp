@@ -130,7 +130,11 @@ void NodeOverlay::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWi
 
 NodeTool::NodeTool(QObject *parent) : QObject(parent)
 {
-    const char *names[EditCount] = {"删除节点", "转为直线", "转为曲线", "断开", "连接"};
+    // Marked for the translation tools; translated when the actions are made.
+    const char *names[EditCount] = {
+        QT_TRANSLATE_NOOP("NodeTool", "删除节点"), QT_TRANSLATE_NOOP("NodeTool", "转为直线"),
+        QT_TRANSLATE_NOOP("NodeTool", "转为曲线"), QT_TRANSLATE_NOOP("NodeTool", "断开"),
+        QT_TRANSLATE_NOOP("NodeTool", "连接")};
     const Qt::Key keys[EditCount] = {Qt::Key_Delete, Qt::Key_L, Qt::Key_C, Qt::Key_B, Qt::Key_J};
     for (int i = 0; i < EditCount; ++i) {
         m_actions[i] = new QAction(toolText(names[i]), this);
