@@ -9,7 +9,7 @@ namespace lumitra {
 
 QString nodeEditText(NodeEdit edit)
 {
-    const char *text = QT_TRANSLATE_NOOP("EditCommand", "编辑节点");
+    const char *text = QT_TRANSLATE_NOOP("EditCommand", "移动节点");
     switch (edit) {
     case NodeEdit::MoveNode:
         text = QT_TRANSLATE_NOOP("EditCommand", "移动节点");

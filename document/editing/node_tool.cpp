@@ -22,11 +22,6 @@ namespace {
 
 constexpr double kOverlayZ = 1e6;
 
-QString toolText(const char *text)
-{
-    return QCoreApplication::translate("NodeTool", text);
-}
-
 double scaleOf(const QTransform &t)
 {
     return std::sqrt(std::fabs(t.determinant()));
@@ -130,14 +125,12 @@ void NodeOverlay::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWi
 
 NodeTool::NodeTool(QObject *parent) : QObject(parent)
 {
-    // Marked for the translation tools; translated when the actions are made.
-    const char *names[EditCount] = {
-        QT_TRANSLATE_NOOP("NodeTool", "删除节点"), QT_TRANSLATE_NOOP("NodeTool", "转为直线"),
-        QT_TRANSLATE_NOOP("NodeTool", "转为曲线"), QT_TRANSLATE_NOOP("NodeTool", "断开"),
-        QT_TRANSLATE_NOOP("NodeTool", "连接")};
+    // The menu says what the undo step will say.
+    const NodeEdit edits[EditCount] = {NodeEdit::DeleteNode, NodeEdit::Straight, NodeEdit::Curved,
+                                       NodeEdit::Break, NodeEdit::Join};
     const Qt::Key keys[EditCount] = {Qt::Key_Delete, Qt::Key_L, Qt::Key_C, Qt::Key_B, Qt::Key_J};
     for (int i = 0; i < EditCount; ++i) {
-        m_actions[i] = new QAction(toolText(names[i]), this);
+        m_actions[i] = new QAction(nodeEditText(edits[i]), this);
         m_actions[i]->setShortcut(QKeySequence(keys[i]));
         m_actions[i]->setShortcutVisibleInContextMenu(true);
         // The keys reach the tool through the scene; the menu only shows them.

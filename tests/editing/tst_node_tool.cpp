@@ -217,6 +217,12 @@ private slots:
         c.click({60, -120});
         QCOMPARE(c.stack()->index(), index);
         QCOMPARE(c.tool.chosenNode(), (NodeRef{0, 0}));
+        // The chosen node is drawn filled, the others hollow.
+        const QImage shown = c.view.viewport()->grab().toImage();
+        const QColor chosen = shown.pixelColor(c.view.mapFromScene(60, -120));
+        const QColor other = shown.pixelColor(c.view.mapFromScene(80, -110));
+        QVERIFY2(chosen.blue() > 150 && chosen.red() < 80, qPrintable(chosen.name()));
+        QCOMPARE(other, QColor(Qt::white));
     }
 
     void doubleClickAddsAndDeletesNodes()
