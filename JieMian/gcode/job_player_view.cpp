@@ -82,14 +82,15 @@ void JobPlayerView::zoomAt(const QPointF &widgetPoint, double factor)
 void JobPlayerView::invalidate()
 {
     m_planned = QImage();
-    m_done = QImage();
+    m_doneTravel = QImage();
+    m_doneBurn = QImage();
     m_doneCount = 0;
     update();
 }
 
-void JobPlayerView::drawMove(QPainter &painter, const TimelineMove &move, const QPointF &to)
+void JobPlayerView::drawMove(QPainter &painter, const QTransform &t, const TimelineMove &move,
+                             const QPointF &to)
 {
-    const QTransform t = toWidget();
     if (move.burning) {
         const QColor colour = move.layer >= 0 && move.layer < m_colours.size()
                                   ? m_colours.at(move.layer)
@@ -103,22 +104,26 @@ void JobPlayerView::drawMove(QPainter &painter, const TimelineMove &move, const 
 
 void JobPlayerView::drawDone(int done)
 {
-    if (m_done.size() != size() || done < m_doneCount) {
-        m_done = QImage(size(), QImage::Format_ARGB32_Premultiplied);
-        m_done.fill(Qt::transparent);
+    if (m_doneBurn.isNull() || done < m_doneCount) {
+        for (QImage *image : {&m_doneTravel, &m_doneBurn}) {
+            *image = QImage(m_planned.size(), QImage::Format_ARGB32_Premultiplied);
+            image->fill(Qt::transparent);
+        }
         m_doneCount = 0;
     }
     if (done <= m_doneCount || !m_timeline)
         return;
-    QPainter painter(&m_done);
-    painter.setRenderHint(QPainter::Antialiasing, true);
+    // Travel and burns on pictures of their own, burns shown over travel, so
+    // that a pass with the laser off along a burnt line does not hide it.
+    QPainter travel(&m_doneTravel);
+    QPainter burn(&m_doneBurn);
+    travel.setRenderHint(QPainter::Antialiasing, true);
+    burn.setRenderHint(QPainter::Antialiasing, true);
     const QVector<TimelineMove> &moves = m_timeline->moves();
-    // Travel first, then burns over it, so that a pass with the laser off
-    // along a burnt line does not hide it.
-    for (const bool burning : {false, true})
-        for (int i = m_doneCount; i < done; ++i)
-            if (moves.at(i).burning == burning)
-                drawMove(painter, moves.at(i), moves.at(i).to);
+    for (int i = m_doneCount; i < done; ++i) {
+        const TimelineMove &m = moves.at(i);
+        drawMove(m.burning ? burn : travel, m_cacheTransform, m, m.to);
+    }
     m_doneCount = done;
 }
 
@@ -129,26 +134,30 @@ void JobPlayerView::paintEvent(QPaintEvent *)
     if (!m_timeline)
         return;
     const QVector<TimelineMove> &moves = m_timeline->moves();
-    if (m_planned.size() != size()) {
+    if (m_planned.isNull()) {
+        // The pictures are drawn at the transform of the moment; a pan only
+        // shifts them until the button is let go.
+        m_cacheTransform = toWidget();
         m_planned = QImage(size(), QImage::Format_ARGB32_Premultiplied);
         m_planned.fill(Qt::transparent);
         QPainter planned(&m_planned);
         planned.setPen(QPen(plannedColour(), 1));
-        const QTransform t = toWidget();
         for (const TimelineMove &m : moves)
             if (m.burning)
-                planned.drawLine(t.map(m.from), t.map(m.to));
+                planned.drawLine(m_cacheTransform.map(m.from), m_cacheTransform.map(m.to));
     }
-    painter.drawImage(0, 0, m_planned);
+    const QPointF shift = toWidget().map(QPointF()) - m_cacheTransform.map(QPointF());
+    painter.drawImage(shift, m_planned);
 
     double fraction = 0.0;
     const int done = m_timeline->movesDone(m_position, &fraction);
     drawDone(done);
-    painter.drawImage(0, 0, m_done);
+    painter.drawImage(shift, m_doneTravel);
+    painter.drawImage(shift, m_doneBurn);
     painter.setRenderHint(QPainter::Antialiasing, true);
     if (done < moves.size() && fraction > 0.0) {
         const TimelineMove &m = moves.at(done);
-        drawMove(painter, m, m.from + (m.to - m.from) * fraction);
+        drawMove(painter, toWidget(), m, m.from + (m.to - m.from) * fraction);
     }
     const QPointF head = mapFromMachine(m_timeline->headAt(m_position));
     painter.setPen(QPen(headColour(), 2));
@@ -189,7 +198,7 @@ void JobPlayerView::mouseMoveEvent(QMouseEvent *event)
     m_origin += event->localPos() - m_lastPointer;
     m_lastPointer = event->localPos();
     m_autoFit = false;
-    invalidate();
+    update(); // the pictures move along; drawn again when the button is let go
 }
 
 void JobPlayerView::mouseReleaseEvent(QMouseEvent *event)
@@ -197,6 +206,7 @@ void JobPlayerView::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() == Qt::LeftButton && m_panning) {
         m_panning = false;
         unsetCursor();
+        invalidate();
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPointF>
+#include <QTransform>
 #include <QVector>
 #include <QWidget>
 
@@ -54,16 +55,19 @@ private:
     void invalidate();
     // Brings the picture of the finished moves up to `done` moves.
     void drawDone(int done);
-    void drawMove(QPainter &painter, const TimelineMove &move, const QPointF &to);
+    void drawMove(QPainter &painter, const QTransform &t, const TimelineMove &move,
+                  const QPointF &to);
 
     const JobTimeline *m_timeline = nullptr;
     QVector<QColor> m_colours;
     double m_position = 0.0;
     double m_scale = 1.0;
-    QPointF m_origin;      // widget point of machine (0, 0)
-    bool m_autoFit = true; // fits the job again on resizing until zoomed or panned
-    QImage m_planned;      // the whole job, faint
-    QImage m_done;         // the moves finished by m_doneCount
+    QPointF m_origin;            // widget point of machine (0, 0)
+    bool m_autoFit = true;       // fits the job again on resizing until zoomed or panned
+    QTransform m_cacheTransform; // machine to the pixels of the pictures below
+    QImage m_planned;            // the whole job, faint
+    QImage m_doneTravel;         // the moves finished by m_doneCount: travel
+    QImage m_doneBurn;           // and burns
     int m_doneCount = 0;
     bool m_panning = false;
     QPointF m_lastPointer;

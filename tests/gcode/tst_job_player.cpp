@@ -354,12 +354,19 @@ private slots:
     void wheelZoomsAndDragPans()
     {
         Player p;
+        p.slider->setValue(12); // everything burnt
         const double scale = p.view->scale();
         const QPointF under = p.view->mapFromMachine({15, 5});
         QWheelEvent wheel(under, p.view->mapToGlobal(under.toPoint()), QPoint(), QPoint(0, 240),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(p.view, &wheel);
         QVERIFY(near(p.view->scale(), scale * 1.25 * 1.25, 1e-9));
+        QVERIFY(near(p.view->mapToMachine(under), QPointF(15, 5), 1e-9));
+        // And out again, further than it was.
+        QWheelEvent out(under, p.view->mapToGlobal(under.toPoint()), QPoint(), QPoint(0, -360),
+                        Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(p.view, &out);
+        QVERIFY(near(p.view->scale(), scale / 1.25, 1e-9));
         QVERIFY(near(p.view->mapToMachine(under), QPointF(15, 5), 1e-9));
 
         const QPointF before = p.view->mapFromMachine({0, 0});
@@ -370,8 +377,11 @@ private slots:
         mouse(QEvent::MouseButtonPress, {100, 100}, Qt::LeftButton);
         mouse(QEvent::MouseMove, {130, 110}, Qt::LeftButton);
         mouse(QEvent::MouseMove, {160, 80}, Qt::LeftButton);
+        // The picture follows the pointer while panning, and after.
+        QVERIFY(colourNear(p.picture(), p.view->mapFromMachine({15, 0}), QColor(255, 0, 0)));
         mouse(QEvent::MouseButtonRelease, {160, 80}, Qt::NoButton);
         QVERIFY(near(p.view->mapFromMachine({0, 0}), before + QPointF(60, -20)));
+        QVERIFY(colourNear(p.picture(), p.view->mapFromMachine({15, 0}), QColor(255, 0, 0)));
         // A double-click fits the job again.
         mouse(QEvent::MouseButtonDblClick, {160, 80}, Qt::LeftButton);
         QVERIFY(near(p.view->scale(), scale, 1e-9));
