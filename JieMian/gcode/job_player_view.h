@@ -55,6 +55,7 @@ private:
     void invalidate();
     // Brings the picture of the finished moves up to `done` moves.
     void drawDone(int done);
+    QColor layerColour(int layer) const;
     void drawMove(QPainter &painter, const QTransform &t, const TimelineMove &move,
                   const QPointF &to);
 
