@@ -111,6 +111,7 @@ void GrblTimeEstimator::addLine(const double target[3], bool rapid)
         unit[i] = delta[i] / length;
 
     Block b;
+    b.line = int(m_lineEnd.size()) - 1;
     b.length = length;
     b.accel = limitByAxes(m_settings.acceleration, unit);
     const double rapidRate = limitByAxes(m_settings.maxRate, unit); // mm/min
@@ -170,6 +171,8 @@ void GrblTimeEstimator::executeFront()
     m_seconds += trapezoid_seconds(front.length, std::sqrt(m_entrySq), std::sqrt(exitSq),
                                    front.nominal, front.accel);
     m_entrySq = exitSq;
+    if (front.line >= 0 && size_t(front.line) < m_lineEnd.size())
+        m_lineEnd[size_t(front.line)] = m_seconds;
     m_queue.pop_front();
 }
 
@@ -215,6 +218,7 @@ void GrblTimeEstimator::addArc(const double target[3], const double offset[3], b
 
 void GrblTimeEstimator::feedLine(const QString &line)
 {
+    m_lineEnd.push_back(-1.0);
     if (line.trimmed().startsWith(QLatin1Char('$')))
         return; // system commands do not move in a job
     QVector<Word> words;
@@ -367,6 +371,7 @@ void GrblTimeEstimator::feedLine(const QString &line)
     if (dwell) {
         synchronize();
         m_seconds += std::max(0.0, pause);
+        m_lineEnd.back() = m_seconds;
     }
     m_absolute = absolute;
     if (setOrigin) {
@@ -425,6 +430,18 @@ double GrblTimeEstimator::seconds()
 {
     synchronize();
     return m_seconds;
+}
+
+QVector<double> GrblTimeEstimator::lineEndSeconds()
+{
+    synchronize();
+    QVector<double> ends(int(m_lineEnd.size()));
+    double last = 0.0;
+    for (size_t i = 0; i < m_lineEnd.size(); ++i) {
+        last = std::max(last, m_lineEnd[i]);
+        ends[int(i)] = last;
+    }
+    return ends;
 }
 
 bool GrblTimeEstimator::estimate(QIODevice &job, const GrblMachineSettings &settings,

@@ -3,7 +3,9 @@
 #include "grbl_machine_settings.h"
 
 #include <QString>
+#include <QVector>
 #include <deque>
+#include <vector>
 
 class QIODevice;
 
@@ -27,6 +29,14 @@ public:
     double seconds();
     // Planned motion blocks so far (arcs count one per segment).
     int blocks() const { return m_blocks; }
+    // Lines fed so far, every line counted (comments and refused lines too).
+    int lines() const { return int(m_lineEnd.size()); }
+    // For every line fed so far, the time (seconds from the start) by which
+    // the controller has run it: its last block finished, its dwell waited. A
+    // line that does not move ends when the line before it does, so the times
+    // never decrease. Runs what is still buffered to a stop first, as
+    // seconds() does.
+    QVector<double> lineEndSeconds();
 
     // Estimates a whole job; false when the device cannot be read.
     static bool estimate(QIODevice &job, const GrblMachineSettings &settings, double *seconds);
@@ -40,6 +50,7 @@ private:
         double accel = 0.0;      // mm/s², limited per axis
         double nominal = 0.0;    // mm/s
         double maxEntrySq = 0.0; // (mm/s)²
+        int line = 0;            // the line it came from
     };
 
     void addLine(const double target[3], bool rapid);
@@ -54,6 +65,7 @@ private:
     double m_prevNominal = 0.0;
     double m_seconds = 0.0;
     int m_blocks = 0;
+    std::vector<double> m_lineEnd; // per line fed; negative until it has run
 
     // Parser state.
     double m_pos[3] = {0.0, 0.0, 0.0};

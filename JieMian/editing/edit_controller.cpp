@@ -12,6 +12,7 @@
 #include "jk_tu_yuan.h"
 #include "jk_wen_zi2.h"
 #include "move_dialog.h"
+#include "node_tool.h"
 #include "selection_tool.h"
 
 #include <QAction>
@@ -29,7 +30,7 @@ using namespace lumitra;
 
 EditController::EditController(DesignPages *pages, QWidget *window, QObject *parent)
     : QObject(parent), m_pages(pages), m_window(window), m_selection(new SelectionTool),
-      m_updateTimer(new QTimer(this))
+      m_nodeTool(new NodeTool), m_updateTimer(new QTimer(this))
 {
     m_drawingTools.resize(CurveTool + 1);
     m_drawingTools[LineTool] = new PolylineTool;
@@ -54,9 +55,11 @@ EditController::EditController(DesignPages *pages, QWidget *window, QObject *par
 
 EditController::~EditController()
 {
-    if (m_scene && m_scene->tool() && m_scene->tool() != m_selection.get())
+    if (m_scene && m_scene->tool() && m_scene->tool() != m_selection.get()
+        && m_scene->tool() != m_nodeTool.get())
         m_scene->setTool(nullptr);
     m_selection.reset();
+    m_nodeTool.reset();
     qDeleteAll(m_drawingTools);
 }
 
@@ -67,13 +70,17 @@ QList<QAction *> EditController::actions() const
 
 QAction *EditController::toolAction(int number) const
 {
+    if (number == kNodeToolNumber)
+        return m_nodeAction;
     const QList<QAction *> tools = toolActions();
     return number >= 0 && number < tools.size() ? tools.at(number) : nullptr;
 }
 
 QList<QAction *> EditController::toolActions() const
 {
-    return m_toolGroup->actions();
+    QList<QAction *> tools = m_toolGroup->actions();
+    tools.removeOne(m_nodeAction);
+    return tools;
 }
 
 void EditController::makeActions(QWidget *window)
@@ -134,6 +141,12 @@ void EditController::makeToolActions(QWidget *window)
         if (window)
             window->addAction(a);
     }
+    m_nodeAction = new QAction(tr("节点"), m_toolGroup);
+    m_nodeAction->setCheckable(true);
+    m_nodeAction->setData(kNodeToolNumber);
+    connect(m_nodeAction, &QAction::triggered, this, [this] { setTool(kNodeToolNumber); });
+    if (window)
+        window->addAction(m_nodeAction);
 }
 
 Jk_chang_jing *EditController::scene() const
@@ -167,13 +180,15 @@ SceneTool *EditController::toolFor(int number) const
 
 void EditController::setTool(int number)
 {
-    if (number < 0 || number > CurveTool)
+    if (number < 0 || (number > CurveTool && number != kNodeToolNumber))
         number = 0;
     m_toolNumber = number;
     Jk_chang_jing *s = scene();
     if (s) {
         if (number == 0)
             m_selection->activate(s);
+        else if (number == kNodeToolNumber)
+            m_nodeTool->activate(s);
         else
             s->setTool(toolFor(number));
     }
@@ -187,7 +202,8 @@ void EditController::onPageChanged()
     Jk_chang_jing *now = scene();
     if (m_scene && m_scene != now) {
         // The tools serve one page at a time.
-        if (m_scene->tool() == m_selection.get() || m_drawingTools.contains(m_scene->tool()))
+        if (m_scene->tool() == m_selection.get() || m_scene->tool() == m_nodeTool.get()
+            || m_drawingTools.contains(m_scene->tool()))
             m_scene->setTool(nullptr);
         disconnect(m_scene, nullptr, this, nullptr);
     }
@@ -257,6 +273,12 @@ void EditController::duplicate()
 
 void EditController::deleteSelection()
 {
+    // With the node tool on a chosen node, the delete key takes the node.
+    if (m_toolNumber == kNodeToolNumber && m_nodeTool->scene() == scene()
+        && m_nodeTool->chosenNode().isValid()) {
+        m_nodeTool->apply(NodeTool::DeleteNode);
+        return;
+    }
     const QList<Jk_tu_yuan *> items = selectedItems();
     if (!items.isEmpty())
         scene()->deleteItemsUndoable(items);

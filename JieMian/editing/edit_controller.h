@@ -24,8 +24,9 @@ class QUndoCommand;
 class SceneTool;
 
 namespace lumitra {
+class NodeTool;
 class SelectionTool;
-}
+} // namespace lumitra
 
 // The editing side of the design canvas, for the main window to own: the
 // drawing tools and the selection tool on the current page, the edit actions
@@ -67,9 +68,13 @@ public:
 
     QAction *action(Action which) const { return m_actions.at(which); }
     QList<QAction *> actions() const;
-    // One checkable action per tool number 0..8, exclusive.
+    // One checkable action per tool number 0..8, exclusive; toolAction(9) is
+    // the node tool's, which is not in the list.
     QAction *toolAction(int number) const;
     QList<QAction *> toolActions() const;
+    // The node tool (tool 9), in the same exclusive group as the others.
+    QAction *nodeToolAction() const { return m_nodeAction; }
+    lumitra::NodeTool *nodeTool() const { return m_nodeTool.get(); }
     int currentTool() const { return m_toolNumber; }
 
     lumitra::SelectionTool *selectionTool() const { return m_selection.get(); }
@@ -88,6 +93,7 @@ public slots:
     void copy();
     void paste();
     void duplicate();
+    // Deletes the selected items, or the chosen node while the node tool has one.
     void deleteSelection();
     void selectAll();
     void mirror(bool horizontal);
@@ -131,6 +137,8 @@ private:
     DesignPages *m_pages;
     QWidget *m_window;
     std::unique_ptr<lumitra::SelectionTool> m_selection;
+    std::unique_ptr<lumitra::NodeTool> m_nodeTool;
+    QAction *m_nodeAction = nullptr;
     QVector<SceneTool *> m_drawingTools; // index = tool number; [0] unused
     QVector<QAction *> m_actions;
     QActionGroup *m_toolGroup = nullptr;

@@ -17,5 +17,8 @@ target_sources(lumitra_document PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/frame_geometry.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_geometry.h
   ${CMAKE_CURRENT_LIST_DIR}/selection_frame.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_frame.h
   ${CMAKE_CURRENT_LIST_DIR}/selection_tool.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_tool.h
-  ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.cpp ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.h)
+  ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.cpp ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.h
+  ${CMAKE_CURRENT_LIST_DIR}/node_path.cpp ${CMAKE_CURRENT_LIST_DIR}/node_path.h
+  ${CMAKE_CURRENT_LIST_DIR}/node_commands.cpp ${CMAKE_CURRENT_LIST_DIR}/node_commands.h
+  ${CMAKE_CURRENT_LIST_DIR}/node_tool.cpp ${CMAKE_CURRENT_LIST_DIR}/node_tool.h)
 target_include_directories(lumitra_document PUBLIC ${CMAKE_CURRENT_LIST_DIR})

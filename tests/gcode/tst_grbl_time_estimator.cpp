@@ -368,6 +368,41 @@ private slots:
         QVERIFY(std::fabs(trapezoid_seconds(length, v0, v1, 50.0, 100.0) - expected) < 1e-12);
     }
 
+    // Per-line times: a line ends when its last block has run or its dwell
+    // waited; lines that do not move take the time of the line before.
+    void lineTimes_data()
+    {
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<QVector<double>>("ends");
+        // 10 mm at 10 mm/s with 100 mm/s², rest to rest: 1.1 s.
+        const double t = trapezoidTime(10.0, 10.0, 100.0);
+        QTest::newRow("stops between moves")
+            << QStringList{"M4", "G1X10F600", "G4P2", ";layer", "G1Y10", "M5"}
+            << QVector<double>{0.0, t, t + 2.0, t + 2.0, 2.0 * t + 2.0, 2.0 * t + 2.0};
+        // Straight on: one profile over 20 mm, the first half ends at the
+        // point where it has covered 10 mm accelerating to 10 mm/s and cruising.
+        const double whole = trapezoidTime(20.0, 10.0, 100.0);
+        QTest::newRow("moves planned together")
+            << QStringList{"G1X10F600", "G1X20", "M2"} << QVector<double>{0.1 + 0.95, whole, whole};
+        QTest::newRow("nothing moves")
+            << QStringList{"G90", "(note)", "M5"} << QVector<double>{0.0, 0.0, 0.0};
+    }
+    void lineTimes()
+    {
+        QFETCH(QStringList, lines);
+        QFETCH(QVector<double>, ends);
+        GrblTimeEstimator e(machine(100.0));
+        for (const QString &line : lines)
+            e.feedLine(line);
+        QCOMPARE(e.lines(), lines.size());
+        const QVector<double> got = e.lineEndSeconds();
+        QCOMPARE(got.size(), ends.size());
+        for (int i = 0; i < ends.size(); ++i)
+            QVERIFY2(std::fabs(got.at(i) - ends.at(i)) < 1e-9,
+                     qPrintable(QStringLiteral("line %1: %2").arg(i).arg(got.at(i))));
+        QVERIFY(std::fabs(got.last() - e.seconds()) < 1e-12);
+    }
+
     void settingsDump()
     {
         const QString dump = QStringLiteral("$0=10\r\n$11=0.020\r\n$12=0.005\r\n"
