@@ -71,52 +71,68 @@ QPainterPath offsetOutline(const QPainterPath &path, double distance, CornerStyl
 
 QPainterPath kerfOutline(const QPainterPath &path, double kerf, double tolerance)
 {
+    return kerfOutlines({path}, kerf, tolerance).value(0);
+}
+
+QVector<QPainterPath> kerfOutlines(const QVector<QPainterPath> &paths, double kerf,
+                                   double tolerance)
+{
     if (kerf == 0 || !std::isfinite(kerf))
-        return path;
-    const QVector<FlatSubpath> subpaths = flattenSubpaths(path, tolerance);
+        return paths;
+    QVector<QVector<FlatSubpath>> flat;
+    flat.reserve(paths.size());
     QVector<const ClipperLib::Path *> closed;
-    for (const FlatSubpath &s : subpaths) {
-        if (s.closed)
-            closed.append(&s.polygon);
+    for (const QPainterPath &path : paths) {
+        flat.append(flattenSubpaths(path, tolerance));
+        for (const FlatSubpath &s : qAsConst(flat.last())) {
+            if (s.closed)
+                closed.append(&s.polygon);
+        }
     }
     const QVector<int> depths = nestingDepths(closed);
-    QPainterPath out;
+    QVector<QPainterPath> outs;
+    outs.reserve(paths.size());
     int c = 0;
-    for (const FlatSubpath &s : subpaths) {
-        if (!s.closed) {
-            out.addPath(s.original);
-            continue;
-        }
-        const int depth = depths[c++];
-        const double half = (depth % 2 == 0 ? kerf : -kerf) / 2;
-        ClipperLib::ClipperOffset offsetter = makeOffsetter(tolerance);
-        offsetter.AddPath(s.polygon, ClipperLib::jtRound, ClipperLib::etClosedPolygon);
-        ClipperLib::Paths result;
-        offsetter.Execute(result, half * kClipperScale);
-        // Start where the subpath started, so the cut order stays as it was.
-        for (ClipperLib::Path &polygon : result) {
-            if (polygon.size() < 3)
+    for (const QVector<FlatSubpath> &subpaths : qAsConst(flat)) {
+        QPainterPath out;
+        for (const FlatSubpath &s : subpaths) {
+            if (!s.closed) {
+                out.addPath(s.original);
                 continue;
-            if (ClipperLib::Orientation(polygon) != ClipperLib::Orientation(s.polygon))
-                std::reverse(polygon.begin(), polygon.end());
-            size_t nearest = 0;
-            double best = -1;
-            for (size_t k = 0; k < polygon.size(); ++k) {
-                const double dx = double(polygon[k].X - s.polygon.front().X);
-                const double dy = double(polygon[k].Y - s.polygon.front().Y);
-                const double d = dx * dx + dy * dy;
-                if (best < 0 || d < best) {
-                    best = d;
-                    nearest = k;
-                }
             }
-            std::rotate(polygon.begin(), polygon.begin() + long(nearest), polygon.end());
+            const int depth = depths[c++];
+            const double half = (depth % 2 == 0 ? kerf : -kerf) / 2;
+            ClipperLib::ClipperOffset offsetter = makeOffsetter(tolerance);
+            offsetter.AddPath(s.polygon, ClipperLib::jtRound, ClipperLib::etClosedPolygon);
+            ClipperLib::Paths result;
+            offsetter.Execute(result, half * kClipperScale);
+            // Start where the subpath started, and run the same way, so the
+            // cut order stays as it was.
+            for (ClipperLib::Path &polygon : result) {
+                if (polygon.size() < 3)
+                    continue;
+                if (ClipperLib::Orientation(polygon) != ClipperLib::Orientation(s.polygon))
+                    std::reverse(polygon.begin(), polygon.end());
+                size_t nearest = 0;
+                double best = -1;
+                for (size_t k = 0; k < polygon.size(); ++k) {
+                    const double dx = double(polygon[k].X - s.polygon.front().X);
+                    const double dy = double(polygon[k].Y - s.polygon.front().Y);
+                    const double d = dx * dx + dy * dy;
+                    if (best < 0 || d < best) {
+                        best = d;
+                        nearest = k;
+                    }
+                }
+                std::rotate(polygon.begin(), polygon.begin() + long(nearest), polygon.end());
+            }
+            out.addPath(polygonsToPath(result));
         }
-        out.addPath(polygonsToPath(result));
+        if (!out.isEmpty())
+            out.setFillRule(Qt::OddEvenFill);
+        outs.append(out);
     }
-    if (!out.isEmpty())
-        out.setFillRule(Qt::OddEvenFill);
-    return out;
+    return outs;
 }
 
 } // namespace lumitra

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPainterPath>
+#include <QVector>
 
 namespace lumitra {
 
@@ -31,5 +32,11 @@ QPainterPath offsetOutline(const QPainterPath &path, double distance, CornerStyl
 // beam is left out.
 QPainterPath kerfOutline(const QPainterPath &path, double kerf,
                          double tolerance = kGeometryTolerance);
+
+// The same for the outlines of a whole layer, one result per outline: nesting
+// is counted across all of them, so a hole drawn as an item of its own inside
+// a part is a hole too.
+QVector<QPainterPath> kerfOutlines(const QVector<QPainterPath> &paths, double kerf,
+                                   double tolerance = kGeometryTolerance);
 
 } // namespace lumitra
