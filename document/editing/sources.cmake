@@ -18,4 +18,7 @@ target_sources(lumitra_document PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/selection_frame.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_frame.h
   ${CMAKE_CURRENT_LIST_DIR}/selection_tool.cpp ${CMAKE_CURRENT_LIST_DIR}/selection_tool.h
   ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.cpp ${CMAKE_CURRENT_LIST_DIR}/drawing_tools.h)
+# Offset and boolean operations on items.
+target_sources(lumitra_document PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/outline_operations.cpp ${CMAKE_CURRENT_LIST_DIR}/outline_operations.h)
 target_include_directories(lumitra_document PUBLIC ${CMAKE_CURRENT_LIST_DIR})
