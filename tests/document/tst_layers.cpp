@@ -331,6 +331,42 @@ private slots:
         QCOMPARE(fieldValue(layer, name), edited);
     }
 
+    // Kerf and cut order: shown from the record, edited through the box and
+    // the selector, not offered for bitmap layers.
+    void panelKerfAndCutOrder()
+    {
+        Tu_Ceng_Zhi panel;
+        auto *kerf = child<QDoubleSpinBox>(panel, "kerf_Box");
+        auto *order = child<QComboBox>(panel, "cutOrder_Box");
+        QCOMPARE(kerf->minimum(), 0.0);
+        QCOMPARE(kerf->maximum(), 5.0);
+        QCOMPARE(kerf->decimals(), 3);
+        QCOMPARE(order->count(), 2);
+        TuCeng layer(6, false);
+        layer.kerf = 0.15;
+        layer.cutOrder = CutOptimised;
+        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
+        applyEditsTo(panel, layer);
+        panel.setLayer(&layer);
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(kerf->value(), 0.15);
+        QCOMPARE(order->currentIndex(), 1);
+        QVERIFY(kerf->isEnabled() && order->isEnabled());
+
+        kerf->setValue(0.08);
+        QCOMPARE(layer.kerf, 0.08);
+        QCOMPARE(spy.last().at(0).value<LayerEdit>().field, LayerField::Kerf);
+        order->setFocus();
+        QTest::keyClick(order, Qt::Key_Up);
+        QCOMPARE(layer.cutOrder, int(CutAsDrawn));
+        QCOMPARE(spy.last().at(0).value<LayerEdit>().field, LayerField::CutOrder);
+        QCOMPARE(spy.count(), 2);
+
+        TuCeng bitmap(6, true);
+        panel.setLayer(&bitmap);
+        QVERIFY(!kerf->isEnabled() && !order->isEnabled());
+    }
+
     void panelTextsAndChecks()
     {
         Tu_Ceng_Zhi panel;
