@@ -20,6 +20,10 @@ public:
     ~JobPreviewDialog() override;
 
     void setPreview(const JobPreview &preview);
+    // The travel (mm) the optimised cut order saves in this job
+    // (cutOrderTravelSaved in cut_order.h); shown after the travel when
+    // positive. Call after setPreview.
+    void setTravelSaved(double mm);
 
     // "1:05:03", "4:07" or "12 s".
     static QString durationText(double seconds);
@@ -32,4 +36,5 @@ private:
 
     std::unique_ptr<Ui::JobPreviewDialog> m_ui;
     QImage m_image;
+    QString m_travelText;
 };

@@ -7,11 +7,13 @@
 #include "grbl_job_check.h"
 #include "jk_gcode.h"
 #include "job_designs.h"
+#include "job_preview_dialog.h"
 #include "job_simulator.h"
 #include "program_state.h"
 #include "rotary.h"
 
 #include <QBuffer>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
@@ -92,6 +94,7 @@ private slots:
     void optimisedOrder_data();
     void optimisedOrder();
     void travelSaved();
+    void previewShowsTheTravelSaved();
 
 private:
     QByteArray generate(JobDesign &design)
@@ -253,5 +256,31 @@ void TestKerfAndCutOrder::travelSaved()
     }
 }
 
-QTEST_GUILESS_MAIN(TestKerfAndCutOrder)
+void TestKerfAndCutOrder::previewShowsTheTravelSaved()
+{
+    JobDesign design;
+    TuCeng *layer = design.addLayer(0, false);
+    layer->cutOrder = CutOptimised;
+    design.addPath(joined(rectangle(0, -40, 40, 40), circle(20, -20, 10)), 0);
+    const QByteArray job = generate(design);
+    QBuffer buffer;
+    buffer.setData(job);
+    buffer.open(QIODevice::ReadOnly);
+    JobPreviewDialog dialog;
+    dialog.setPreview(renderJobPreview(buffer, QRectF(0, 0, 100, 100)));
+    auto *travel = dialog.findChild<QLabel *>(QStringLiteral("travel_Lab"));
+    QVERIFY(travel);
+    const QString plain = travel->text();
+    const double saved = cutOrderTravelSaved(design.items(), design.layers);
+    QVERIFY(saved > 0);
+    dialog.setTravelSaved(saved);
+    QVERIFY(travel->text().startsWith(plain));
+    QVERIFY2(travel->text().contains(QStringLiteral("%1 mm").arg(saved, 0, 'f', 1)),
+             qPrintable(travel->text()));
+    QVERIFY(!travel->toolTip().isEmpty());
+    dialog.setTravelSaved(0); // nothing saved: the travel alone
+    QCOMPARE(travel->text(), plain);
+}
+
+QTEST_MAIN(TestKerfAndCutOrder)
 #include "tst_kerf_and_cut_order.moc"
