@@ -684,6 +684,58 @@ private slots:
         QCOMPARE(child<QComboBox>(f.panel, "moshi_Box")->count(), 5);
     }
 
+    // Dragging a row moves its layer (one undoable step); a click still ticks.
+    void dragRowMovesTheLayer()
+    {
+        Fixture f;
+        f.add(1);
+        f.add(2);
+        f.add(3);
+        f.rows.resize(600, 400);
+        f.rows.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&f.rows));
+        QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{1, false}, {2, false}, {3, false}}));
+        QSignalSpy moved(&f.rows, &LayerRowsPanel::moveRequested);
+        QSignalSpy checked(&f.rows, &LayerRowsPanel::sendCengChecked);
+        const auto drag = [](TuCengItem2 *row, TuCengItem2 *onto) {
+            const QPoint start = row->rect().center();
+            const QPoint end = row->mapFromGlobal(onto->mapToGlobal(onto->rect().center()));
+            QTest::mousePress(row, Qt::LeftButton, {}, start);
+            for (int step = 1; step <= 4; ++step) {
+                const QPoint p = start + (end - start) * step / 4;
+                QMouseEvent move(QEvent::MouseMove, p, row->mapToGlobal(p), Qt::NoButton,
+                                 Qt::LeftButton, Qt::NoModifier);
+                QApplication::sendEvent(row, &move);
+            }
+            QTest::mouseRelease(row, Qt::LeftButton, {}, end);
+        };
+        drag(f.rows.rows().at(0), f.rows.rows().at(2));
+        QCOMPARE(moved.count(), 1);
+        QCOMPARE(moved.last().at(0).value<LayerKey>(), (LayerKey{1, false}));
+        QCOMPARE(moved.last().at(1).toInt(), 2);
+        QCOMPARE(checked.count(), 0); // a drag is no click
+        QCoreApplication::processEvents();
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {3, false}, {1, false}}));
+        QCOMPARE(rowKeys(f.rows), listKeys());
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{1, false}, {2, false}, {3, false}}));
+        QCoreApplication::processEvents(); // the new rows are laid out
+
+        drag(f.rows.rows().at(2), f.rows.rows().at(1)); // upwards
+        QCOMPARE(moved.count(), 2);
+        QCOMPARE(moved.last().at(0).value<LayerKey>(), (LayerKey{3, false}));
+        QCOMPARE(moved.last().at(1).toInt(), -1);
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{1, false}, {3, false}, {2, false}}));
+
+        // Released where it was pressed: a click, the row ticks.
+        QCoreApplication::processEvents();
+        TuCengItem2 *row = f.rows.rows().at(0);
+        QTest::mouseClick(row, Qt::LeftButton);
+        QCOMPARE(checked.count(), 1);
+        QVERIFY(row->layer()->xuanzhong);
+        QCOMPARE(moved.count(), 2);
+    }
+
     // The row's delete takes the layer's items as one step; undo brings back
     // the items and the layer's record with every parameter at its place.
     void deleteButtonRemovesTheLayersItems()
