@@ -48,6 +48,12 @@ void copyLayerField(TuCeng &to, const TuCeng &from, LayerField field)
         to.xianshi = from.xianshi;
         to.cishu = from.cishu;
         break;
+    case LayerField::Kerf:
+        to.kerf = from.kerf;
+        break;
+    case LayerField::CutOrder:
+        to.cutOrder = from.cutOrder;
+        break;
     }
 }
 
@@ -59,5 +65,6 @@ bool sameLayerField(const TuCeng &a, const TuCeng &b, LayerField field)
     return probe.moshi == a.moshi && probe.shuchu == a.shuchu && probe.xianshi == a.xianshi
            && probe.mingcheng == a.mingcheng && probe.fangxiang == a.fangxiang
            && probe.jianju == a.jianju && probe.saomiao == a.saomiao && probe.sudu == a.sudu
-           && probe.gonglv == a.gonglv && probe.cishu == a.cishu && probe.danxiang == a.danxiang;
+           && probe.gonglv == a.gonglv && probe.cishu == a.cishu && probe.danxiang == a.danxiang
+           && probe.kerf == a.kerf && probe.cutOrder == a.cutOrder;
 }

@@ -20,7 +20,9 @@ enum class LayerField {
     Power,
     Passes,
     SingleDirection,
-    Parameters
+    Parameters,
+    Kerf,
+    CutOrder
 };
 
 // One edit asked for by the layer rows or the parameter panel: the layer, the

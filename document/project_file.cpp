@@ -110,6 +110,9 @@ bool writeProject(QIODevice *device, const QList<ProjectPageOut> &pages)
         for (const TuCeng *layer : page.layers) {
             out << kLayerMarker;
             writeTuCeng(out, *layer);
+            const QString extras = layerExtrasText(*layer);
+            if (!extras.isEmpty())
+                out << extras;
         }
         for (const Jk_tu_yuan *item : page.items)
             writeItem(out, item);
@@ -190,6 +193,9 @@ ProjectReadResult readProject(QIODevice *device)
             ok = readTuCeng(in, layer) && settleLayer(layer);
             if (ok)
                 currentPage(r).layers.append(layer);
+        } else if (ok && !r.pages.isEmpty() && !r.pages.last().layers.isEmpty()) {
+            // Fields added to the layer record after it was first stored.
+            readLayerExtras(marker, r.pages.last().layers.last());
         }
         // Any other string ("0001", "123", "out itemend", "end") is skipped.
         if (!ok) {

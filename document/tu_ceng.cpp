@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QStringList>
+#include <cmath>
 
 TuCeng::TuCeng(int number, bool bitmap)
     : yanse(number), tupian(bitmap), mingcheng(QStringLiteral("L") + QString::number(number))
@@ -31,6 +33,8 @@ TuCeng &TuCeng::operator=(const TuCeng &other)
     mingcheng = other.mingcheng;
     shanchu = other.shanchu;
     cishu = other.cishu;
+    kerf = other.kerf;
+    cutOrder = other.cutOrder;
     // xuanzhong is the row's own tick and is deliberately not copied.
     return *this;
 }
@@ -110,4 +114,44 @@ bool readTuCeng(QDataStream &in, TuCeng &l)
     in >> l.sudu >> l.moshi >> l.tupian >> l.gonglv >> l.shuchu >> l.shanchu >> l.yanse >> l.xianshi
         >> l.mingcheng >> l.danxiang >> l.saomiao >> l.fangxiang >> l.jianju >> l.cishu >> end;
     return in.status() == QDataStream::Ok && end == QLatin1String("123");
+}
+
+namespace {
+const QString kExtrasMarker = QStringLiteral("MY_CENG_EXT");
+} // namespace
+
+QString layerExtrasText(const TuCeng &l)
+{
+    QStringList fields;
+    if (l.kerf != 0.0)
+        fields << QStringLiteral("kerf=") + QString::number(l.kerf, 'g', 12);
+    if (l.cutOrder != CutAsDrawn)
+        fields << QStringLiteral("order=") + QString::number(l.cutOrder);
+    if (fields.isEmpty())
+        return QString();
+    return kExtrasMarker + QLatin1Char(' ') + fields.join(QLatin1Char(' '));
+}
+
+bool readLayerExtras(const QString &text, TuCeng &l)
+{
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (words.isEmpty() || words.first() != kExtrasMarker)
+        return false;
+    for (const QString &w : words) {
+        const int eq = w.indexOf(QLatin1Char('='));
+        if (eq < 0)
+            continue;
+        const QStringRef key = w.leftRef(eq);
+        bool ok = false;
+        if (key == QLatin1String("kerf")) {
+            const double v = w.midRef(eq + 1).toDouble(&ok);
+            if (ok && std::isfinite(v))
+                l.kerf = qBound(0.0, v, 5.0);
+        } else if (key == QLatin1String("order")) {
+            const int v = w.midRef(eq + 1).toInt(&ok);
+            if (ok)
+                l.cutOrder = v == CutOptimised ? CutOptimised : CutAsDrawn;
+        }
+    }
+    return true;
 }

@@ -26,6 +26,8 @@ struct TuCeng
     bool shanchu = false;   // removal mark, used only while rebuilding the list
     qint32 cishu = 1;       // passes 1..999
     bool xuanzhong = false; // row tick; never stored, never copied
+    double kerf = 0.0;      // width of the cut, mm 0..5; line cuts are moved by half of it
+    qint32 cutOrder = 0;    // CutOrder: how the layer's outlines are ordered in the job
 
     TuCeng() = default;
     // A fresh record with the defaults for layer `number`.
@@ -45,6 +47,10 @@ enum BitmapMode {
     NegativeMode = 4
 };
 
+// Order of a layer's outlines in the job: as drawn, or holes and inner shapes
+// before the shapes around them and then the nearest next.
+enum CutOrder { CutAsDrawn = 0, CutOptimised = 1 };
+
 // The 30-colour layer palette.
 constexpr int kLayerCount = 30;
 QColor layerColor(int number);
@@ -62,6 +68,15 @@ QStringList modeLabelsForRow(bool bitmap);
 // "123"). readTuCeng returns false when the stream ran out or is corrupt.
 void writeTuCeng(QDataStream &out, const TuCeng &layer);
 bool readTuCeng(QDataStream &in, TuCeng &layer);
+
+// Fields added after the stored form above, as one string that follows the
+// record's "123" ("MY_CENG_EXT kerf=0.1 order=1"); readers that do not know it
+// skip it as an unknown marker. Empty when every such field has its default,
+// so such a record is stored as it always was.
+QString layerExtrasText(const TuCeng &layer);
+// True when `text` is such a string; its known fields are then set in `layer`
+// (values out of range are brought into it).
+bool readLayerExtras(const QString &text, TuCeng &layer);
 
 // Rows and panels pass records by pointer in signals.
 Q_DECLARE_METATYPE(TuCeng *)

@@ -1,12 +1,14 @@
 #include "jk_gcode.h"
 
 #include "bitmap_raster.h"
+#include "cut_order.h"
 #include "fill_hatch.h"
 #include "gcode_number.h"
 #include "jk_tu_yuan.h"
 #include "job_output.h"
 #include "layer_list.h"
 #include "path_emitter.h"
+#include "path_offset.h"
 #include "path_parts.h"
 #include "program_state.h"
 #include "settings_store.h"
@@ -173,8 +175,17 @@ void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, 
         }
     } record{this, section, output, emitter, bytesBefore, lengthBefore};
     const std::atomic_bool &cancel = programState().cancel;
+    if (!layer.tupian && layer.cutOrder == CutOptimised) {
+        emitOptimisedLayer(layer, own, emitter);
+        return;
+    }
+    // Kerf moves outer outlines out and holes in, by their nesting in the layer.
+    QVector<QPainterPath> cuts;
+    if (!layer.tupian && layer.kerf > 0 && layer.moshi != FillMode)
+        cuts = layerLineOutlines(own, layer);
     for (int pass = 0; pass < layer.cishu; ++pass) {
-        for (const Jk_tu_yuan *item : qAsConst(own)) {
+        for (int index = 0; index < own.size(); ++index) {
+            const Jk_tu_yuan *item = own.at(index);
             if (cancel)
                 return;
             if (item->is_bitmap) {
@@ -190,12 +201,38 @@ void Jk_gcode::emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items, 
                 emitter.endPath();
             }
             if (layer.moshi == LineMode || layer.moshi == CrossFillMode) {
-                emitter.emitPath(outline);
+                emitter.emitPath(cuts.isEmpty() ? outline : cuts.at(index));
             } else if (layer.moshi == FillMode && hasOpenSubpath(outline)) {
                 // A fill has nothing to hatch in an open outline: it is burnt
                 // as a line, as the canvas draws it, rather than left out.
                 emitter.emitPath(splitByClosure(outline).open);
             }
+        }
+    }
+}
+
+void Jk_gcode::emitOptimisedLayer(const TuCeng &layer, const QList<const Jk_tu_yuan *> &items,
+                                  PathEmitter &emitter)
+{
+    // Every pass: the hatches item by item, then the outlines in cut order.
+    const QVector<QPainterPath> pieces = layerLinePieces(items, layer);
+    const QVector<int> order = optimisedCutOrder(pieces, QPointF());
+    const std::atomic_bool &cancel = programState().cancel;
+    for (int pass = 0; pass < layer.cishu; ++pass) {
+        if (layer.moshi == FillMode || layer.moshi == CrossFillMode) {
+            for (const Jk_tu_yuan *item : items) {
+                if (cancel)
+                    return;
+                emitter.beginPath();
+                hatchOutline(item->sceneTransform().map(item->path), hatchSettingsOf(layer),
+                             emitter);
+                emitter.endPath();
+            }
+        }
+        for (int i : order) {
+            if (cancel)
+                return;
+            emitter.emitPath(pieces[i]);
         }
     }
 }

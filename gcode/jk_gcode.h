@@ -4,7 +4,9 @@
 //   "M4\nM8\n", the pending preamble (then cleared), the rotary start bump,
 //   then for every layer in list order whose output is on: ";" + its name,
 //   and `cishu` times the layer's items (vector items by line, fill or cross
-//   fill; bitmap items by raster engraving), and finally the trailer
+//   fill; bitmap items by raster engraving; line cuts moved by half the
+//   layer's kerf and, when the layer asks, in the optimised cut order of
+//   cut_order.h), and finally the trailer
 //   "M9\nG1S0\nM5\nG90\nG0X0Y0\nM2\nM30\n".
 // A job start (job_origin.h) other than absolute moves every coordinate so
 // that the chosen anchor of the output bounds lands on the start point; a job
@@ -100,6 +102,9 @@ signals:
 private:
     void emitLayer(const TuCeng &layer, const QList<Jk_tu_yuan *> &items,
                    lumitra::JobOutput &output, lumitra::PathEmitter &emitter);
+    // A vector layer whose outlines are cut in the optimised order.
+    void emitOptimisedLayer(const TuCeng &layer, const QList<const Jk_tu_yuan *> &items,
+                            lumitra::PathEmitter &emitter);
 
     const LayerList *m_layers = nullptr;
     std::optional<lumitra::RotarySettings> m_rotary;

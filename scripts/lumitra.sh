@@ -17,6 +17,7 @@ packages=(
   libopencv-core-dev libopencv-imgproc-dev libpotrace-dev libdxflib-dev
   libzint-dev zbar-tools qttranslations5-l10n
   xvfb xauth
+  libpolyclipping-dev
 )
 
 install_missing() {

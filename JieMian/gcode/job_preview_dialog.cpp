@@ -58,8 +58,22 @@ void JobPreviewDialog::setPreview(const JobPreview &preview)
     }
     m_ui->lines_Lab->setText(QString::number(s.lines));
     m_ui->burn_Lab->setText(QStringLiteral("%1 mm").arg(s.burnLength, 0, 'f', 1));
-    m_ui->travel_Lab->setText(QStringLiteral("%1 mm").arg(s.travelLength, 0, 'f', 1));
+    m_travelText = QStringLiteral("%1 mm").arg(s.travelLength, 0, 'f', 1);
+    m_ui->travel_Lab->setText(m_travelText);
+    m_ui->travel_Lab->setToolTip(QString());
     showImage();
+}
+
+void JobPreviewDialog::setTravelSaved(double mm)
+{
+    if (!(mm > 0.05)) {
+        m_ui->travel_Lab->setText(m_travelText);
+        m_ui->travel_Lab->setToolTip(QString());
+        return;
+    }
+    const QString saved = QStringLiteral("%1 mm").arg(mm, 0, 'f', 1);
+    m_ui->travel_Lab->setText(m_travelText + QStringLiteral("  ") + tr("(省 %1)").arg(saved));
+    m_ui->travel_Lab->setToolTip(tr("优化切割顺序比按绘制顺序少空移 %1").arg(saved));
 }
 
 void JobPreviewDialog::resizeEvent(QResizeEvent *event)

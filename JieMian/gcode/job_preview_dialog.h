@@ -33,6 +33,10 @@ public:
     ~JobPreviewDialog() override;
 
     void setPreview(const JobPreview &preview);
+    // The travel (mm) the optimised cut order saves in this job
+    // (cutOrderTravelSaved in cut_order.h); shown after the travel when
+    // positive. Call after setPreview.
+    void setTravelSaved(double mm);
 
     // Reads the job (from its current position) for playing it back, timed by
     // the controller's planning with `machine`, else by the programmed feeds.
@@ -77,4 +81,5 @@ private:
     QTimer *m_playTimer = nullptr;
     QElapsedTimer m_elapsed;
     std::function<qint64()> m_clock;
+    QString m_travelText;
 };

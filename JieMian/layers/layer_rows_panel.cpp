@@ -4,8 +4,10 @@
 #include "ui_layer_rows_panel.h"
 #include "wheel_guard.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QStyle>
 
@@ -82,8 +84,11 @@ void LayerRowsPanel::setRows(const QList<TuCeng *> &layers)
 {
     for (QAbstractButton *b : m_rowButtons->buttons())
         m_rowButtons->removeButton(b);
+    m_pressedRow = nullptr;
+    m_dragging = false;
     for (TuCengItem2 *row : qAsConst(m_rows)) {
         row->hide();
+        row->removeEventFilter(this);
         row->disconnect(this);
         row->deleteLater();
     }
@@ -100,6 +105,7 @@ void LayerRowsPanel::setRows(const QList<TuCeng *> &layers)
         connect(row, &TuCengItem2::moveRequested, this, &LayerRowsPanel::moveRequested);
         row->setMoveEnabled(!m_rows.isEmpty(), m_rows.size() + 1 < layers.size());
         m_rowButtons->addButton(row->deleteButton(), m_rows.size());
+        row->installEventFilter(this);
         ui->rowsLayout->addWidget(row);
         m_rows.append(row);
     }
@@ -152,4 +158,71 @@ void LayerRowsPanel::refreshRows()
     for (TuCengItem2 *row : qAsConst(m_rows))
         row->refresh();
     layoutColumns(); // a name may have changed its width
+}
+
+int LayerRowsPanel::rowIndexAt(int containerY) const
+{
+    if (m_rows.isEmpty())
+        return -1;
+    for (int i = 0; i < m_rows.size(); ++i) {
+        if (containerY < m_rows[i]->geometry().bottom())
+            return i;
+    }
+    return m_rows.size() - 1;
+}
+
+bool LayerRowsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *row = qobject_cast<TuCengItem2 *>(watched);
+    if (!row || m_replaying || !m_rows.contains(row))
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+        auto *e = static_cast<QMouseEvent *>(event);
+        if (e->button() != Qt::LeftButton)
+            break;
+        // Held back until the release tells a click from a drag.
+        m_pressedRow = row;
+        m_pressPos = e->globalPos();
+        m_dragging = false;
+        return true;
+    }
+    case QEvent::MouseMove: {
+        auto *e = static_cast<QMouseEvent *>(event);
+        if (m_pressedRow != row)
+            break;
+        if (!m_dragging
+            && (e->globalPos() - m_pressPos).manhattanLength()
+                   >= QApplication::startDragDistance()) {
+            m_dragging = true;
+            row->setCursor(Qt::SizeVerCursor);
+        }
+        return m_dragging;
+    }
+    case QEvent::MouseButtonRelease: {
+        auto *e = static_cast<QMouseEvent *>(event);
+        if (e->button() != Qt::LeftButton || m_pressedRow != row)
+            break;
+        m_pressedRow = nullptr;
+        if (!m_dragging) {
+            // A click: the row ticks as it did before rows could be dragged.
+            QMouseEvent press(QEvent::MouseButtonPress, e->localPos(), e->windowPos(),
+                              e->screenPos(), Qt::LeftButton, Qt::LeftButton, e->modifiers());
+            m_replaying = true;
+            QCoreApplication::sendEvent(row, &press);
+            m_replaying = false;
+            return true;
+        }
+        m_dragging = false;
+        row->unsetCursor();
+        const int from = m_rows.indexOf(row);
+        const int to = rowIndexAt(ui->rowsContainer->mapFromGlobal(e->globalPos()).y());
+        if (from >= 0 && to >= 0 && to != from)
+            emit moveRequested(row->key(), to - from);
+        return true;
+    }
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
 }

@@ -45,6 +45,16 @@ public:
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
+    // The row a point of the rows container (its own coordinates) falls on,
+    // clamped to the first and last row; -1 without rows.
+    int rowIndexAt(int containerY) const;
+
+protected:
+    // Dragging a row up or down asks to move its layer (moveRequested with the
+    // rows it travelled); a press that is released without a drag ticks the
+    // row as a click always did.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     void sendCengChecked(TuCeng *layer, bool checked);
     void sendCengDblClick(TuCeng *layer);
@@ -64,4 +74,8 @@ private:
     int m_probeWidth[TuCengItem2::ColumnCount] = {};
     int m_columnWidth[TuCengItem2::ColumnCount] = {};
     int m_rowHeight = 0;
+    TuCengItem2 *m_pressedRow = nullptr;
+    QPoint m_pressPos; // global
+    bool m_dragging = false;
+    bool m_replaying = false;
 };

@@ -53,6 +53,14 @@ Tu_Ceng_Zhi::Tu_Ceng_Zhi(QWidget *parent) : QWidget(parent), ui(new Ui::Tu_Ceng_
     bind(ui->sudu_Box, LayerField::Speed, &TuCeng::sudu);
     bind(ui->gonglv_Box, LayerField::Power, &TuCeng::gonglv);
     bind(ui->cishu_Box, LayerField::Passes, &TuCeng::cishu);
+    bind(ui->kerf_Box, LayerField::Kerf, &TuCeng::kerf);
+    connect(ui->cutOrder_Box, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        if (m_loading || !m_layer || index == m_layer->cutOrder)
+            return;
+        TuCeng value;
+        value.cutOrder = index;
+        request(LayerField::CutOrder, value, 0);
+    });
     connect(ui->moshi_Box, QOverload<int>::of(&QComboBox::activated), this,
             &Tu_Ceng_Zhi::onModeActivated);
     connect(ui->mingcheng_Edit, &QLineEdit::textEdited, this, [this](const QString &text) {
@@ -123,6 +131,13 @@ void Tu_Ceng_Zhi::setLayer(TuCeng *layer)
     showValue(ui->gonglv_Box, layer->gonglv);
     ui->shuchu_Box->setChecked(layer->shuchu);
     ui->xianshi_Box->setChecked(layer->xianshi);
+    showValue(ui->kerf_Box, layer->kerf);
+    ui->cutOrder_Box->setCurrentIndex(layer->cutOrder == CutOptimised ? 1 : 0);
+    // Kerf and cut order belong to cut outlines, not to bitmaps.
+    for (QWidget *w :
+         {static_cast<QWidget *>(ui->kerf_Box), static_cast<QWidget *>(ui->kerf_Lab),
+          static_cast<QWidget *>(ui->cutOrder_Box), static_cast<QWidget *>(ui->cutOrder_Lab)})
+        w->setEnabled(!layer->tupian);
     updateFillFields();
     m_loading = false;
 }

@@ -21,4 +21,7 @@ target_sources(lumitra_document PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/node_path.cpp ${CMAKE_CURRENT_LIST_DIR}/node_path.h
   ${CMAKE_CURRENT_LIST_DIR}/node_commands.cpp ${CMAKE_CURRENT_LIST_DIR}/node_commands.h
   ${CMAKE_CURRENT_LIST_DIR}/node_tool.cpp ${CMAKE_CURRENT_LIST_DIR}/node_tool.h)
+# Offset and boolean operations on items.
+target_sources(lumitra_document PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/outline_operations.cpp ${CMAKE_CURRENT_LIST_DIR}/outline_operations.h)
 target_include_directories(lumitra_document PUBLIC ${CMAKE_CURRENT_LIST_DIR})

@@ -14,6 +14,7 @@ inline QByteArray bytesOf(const TuCeng &l)
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     writeTuCeng(out, l);
+    out << layerExtrasText(l);
     return bytes;
 }
 

@@ -87,6 +87,8 @@ TuCeng changedValue(LayerField field)
     v.gonglv = 97;
     v.cishu = 9;
     v.danxiang = false;
+    v.kerf = 0.125;
+    v.cutOrder = CutOptimised;
     if (field == LayerField::Output || field == LayerField::Show)
         v.shuchu = v.xianshi = false;
     return v;
@@ -127,6 +129,8 @@ private slots:
         QTest::newRow("passes") << LayerField::Passes;
         QTest::newRow("single direction") << LayerField::SingleDirection;
         QTest::newRow("parameter set") << LayerField::Parameters;
+        QTest::newRow("kerf") << LayerField::Kerf;
+        QTest::newRow("cut order") << LayerField::CutOrder;
     }
     void settingRoundTrip()
     {

@@ -331,6 +331,42 @@ private slots:
         QCOMPARE(fieldValue(layer, name), edited);
     }
 
+    // Kerf and cut order: shown from the record, edited through the box and
+    // the selector, not offered for bitmap layers.
+    void panelKerfAndCutOrder()
+    {
+        Tu_Ceng_Zhi panel;
+        auto *kerf = child<QDoubleSpinBox>(panel, "kerf_Box");
+        auto *order = child<QComboBox>(panel, "cutOrder_Box");
+        QCOMPARE(kerf->minimum(), 0.0);
+        QCOMPARE(kerf->maximum(), 5.0);
+        QCOMPARE(kerf->decimals(), 3);
+        QCOMPARE(order->count(), 2);
+        TuCeng layer(6, false);
+        layer.kerf = 0.15;
+        layer.cutOrder = CutOptimised;
+        QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
+        applyEditsTo(panel, layer);
+        panel.setLayer(&layer);
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(kerf->value(), 0.15);
+        QCOMPARE(order->currentIndex(), 1);
+        QVERIFY(kerf->isEnabled() && order->isEnabled());
+
+        kerf->setValue(0.08);
+        QCOMPARE(layer.kerf, 0.08);
+        QCOMPARE(spy.last().at(0).value<LayerEdit>().field, LayerField::Kerf);
+        order->setFocus();
+        QTest::keyClick(order, Qt::Key_Up);
+        QCOMPARE(layer.cutOrder, int(CutAsDrawn));
+        QCOMPARE(spy.last().at(0).value<LayerEdit>().field, LayerField::CutOrder);
+        QCOMPARE(spy.count(), 2);
+
+        TuCeng bitmap(6, true);
+        panel.setLayer(&bitmap);
+        QVERIFY(!kerf->isEnabled() && !order->isEnabled());
+    }
+
     void panelTextsAndChecks()
     {
         Tu_Ceng_Zhi panel;
@@ -646,6 +682,58 @@ private slots:
         QCOMPARE(shown.count(), 1);
         QCOMPARE(f.panel.layer(), LayerList::instance().find(6, true));
         QCOMPARE(child<QComboBox>(f.panel, "moshi_Box")->count(), 5);
+    }
+
+    // Dragging a row moves its layer (one undoable step); a click still ticks.
+    void dragRowMovesTheLayer()
+    {
+        Fixture f;
+        f.add(1);
+        f.add(2);
+        f.add(3);
+        f.rows.resize(600, 400);
+        f.rows.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&f.rows));
+        QCOMPARE(rowKeys(f.rows), (QVector<LayerKey>{{1, false}, {2, false}, {3, false}}));
+        QSignalSpy moved(&f.rows, &LayerRowsPanel::moveRequested);
+        QSignalSpy checked(&f.rows, &LayerRowsPanel::sendCengChecked);
+        const auto drag = [](TuCengItem2 *row, TuCengItem2 *onto) {
+            const QPoint start = row->rect().center();
+            const QPoint end = row->mapFromGlobal(onto->mapToGlobal(onto->rect().center()));
+            QTest::mousePress(row, Qt::LeftButton, {}, start);
+            for (int step = 1; step <= 4; ++step) {
+                const QPoint p = start + (end - start) * step / 4;
+                QMouseEvent move(QEvent::MouseMove, p, row->mapToGlobal(p), Qt::NoButton,
+                                 Qt::LeftButton, Qt::NoModifier);
+                QApplication::sendEvent(row, &move);
+            }
+            QTest::mouseRelease(row, Qt::LeftButton, {}, end);
+        };
+        drag(f.rows.rows().at(0), f.rows.rows().at(2));
+        QCOMPARE(moved.count(), 1);
+        QCOMPARE(moved.last().at(0).value<LayerKey>(), (LayerKey{1, false}));
+        QCOMPARE(moved.last().at(1).toInt(), 2);
+        QCOMPARE(checked.count(), 0); // a drag is no click
+        QCoreApplication::processEvents();
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{2, false}, {3, false}, {1, false}}));
+        QCOMPARE(rowKeys(f.rows), listKeys());
+        f.scene()->undoStack()->undo();
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{1, false}, {2, false}, {3, false}}));
+        QCoreApplication::processEvents(); // the new rows are laid out
+
+        drag(f.rows.rows().at(2), f.rows.rows().at(1)); // upwards
+        QCOMPARE(moved.count(), 2);
+        QCOMPARE(moved.last().at(0).value<LayerKey>(), (LayerKey{3, false}));
+        QCOMPARE(moved.last().at(1).toInt(), -1);
+        QCOMPARE(listKeys(), (QVector<LayerKey>{{1, false}, {3, false}, {2, false}}));
+
+        // Released where it was pressed: a click, the row ticks.
+        QCoreApplication::processEvents();
+        TuCengItem2 *row = f.rows.rows().at(0);
+        QTest::mouseClick(row, Qt::LeftButton);
+        QCOMPARE(checked.count(), 1);
+        QVERIFY(row->layer()->xuanzhong);
+        QCOMPARE(moved.count(), 2);
     }
 
     // The row's delete takes the layer's items as one step; undo brings back

@@ -550,6 +550,53 @@ private slots:
         QTest::newRow("NaN") << QTransform(kNaN, 0, 0, 1, 0, 0) << false;
         QTest::newRow("infinite shift") << QTransform(1, 0, 0, 1, kInf, 0) << false;
     }
+    // Kerf and cut order follow their record as one extra string, only when
+    // set, so a record at its defaults is stored as before and files written
+    // before these fields existed load with the defaults.
+    void layerExtras_data()
+    {
+        QTest::addColumn<double>("kerf");
+        QTest::addColumn<int>("order");
+        QTest::newRow("defaults") << 0.0 << int(CutAsDrawn);
+        QTest::newRow("kerf") << 0.125 << int(CutAsDrawn);
+        QTest::newRow("order") << 0.0 << int(CutOptimised);
+        QTest::newRow("both") << 0.3 << int(CutOptimised);
+    }
+    void layerExtras()
+    {
+        QFETCH(double, kerf);
+        QFETCH(int, order);
+        TuCeng layer(4, false);
+        layer.kerf = kerf;
+        layer.cutOrder = order;
+        ProjectPageOut page;
+        page.name = QStringLiteral("p");
+        page.layers = {&layer};
+        const QByteArray bytes = writeBytes({page});
+        const TuCeng plain(4, false);
+        page.layers = {&plain};
+        const QByteArray plainBytes = writeBytes({page});
+        QCOMPARE(bytes == plainBytes, kerf == 0 && order == CutAsDrawn);
+        const ProjectReadResult r = readBytes(bytes);
+        QVERIFY(r.complete);
+        QCOMPARE(r.pages.size(), 1);
+        QCOMPARE(r.pages[0].layers.size(), 1);
+        QCOMPARE(r.pages[0].layers[0].kerf, kerf);
+        QCOMPARE(r.pages[0].layers[0].cutOrder, order);
+    }
+    void layerExtrasUnknownKeysAndRanges()
+    {
+        TuCeng l(1, false);
+        QVERIFY(readLayerExtras(QStringLiteral("MY_CENG_EXT fine=1 kerf=0.2 order=7"), l));
+        QCOMPARE(l.kerf, 0.2);
+        QCOMPARE(l.cutOrder, int(CutAsDrawn));
+        QVERIFY(readLayerExtras(QStringLiteral("MY_CENG_EXT kerf=99 order=1"), l));
+        QCOMPARE(l.kerf, 5.0);
+        QCOMPARE(l.cutOrder, int(CutOptimised));
+        QVERIFY(!readLayerExtras(QStringLiteral("out itemend"), l));
+        QCOMPARE(layerExtrasText(TuCeng(1, false)), QString());
+    }
+
     void transforms()
     {
         QFETCH(QTransform, transform);
