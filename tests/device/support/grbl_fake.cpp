@@ -611,7 +611,8 @@ struct GrblFake::Impl
 
     void loop()
     {
-        while (!stopping.load() && master >= 0) {
+        // A closed far end (unplugged) still runs what the planner holds.
+        while (!stopping.load() && (master >= 0 || !planner.empty())) {
             const double next = advance(now());
             flushOut();
             pollfd fds[2] = {{wake, POLLIN, 0},
@@ -674,7 +675,11 @@ bool GrblFake::start()
     // The fake keeps the near end open too, so the far end never reads a
     // hang-up while the link under test has its port closed.
     ::fcntl(d->master, F_SETFL, ::fcntl(d->master, F_GETFL) | O_NONBLOCK);
-    d->wake = ::eventfd(0, EFD_NONBLOCK);
+    // A process the test starts must not hold the far end open: unplugging
+    // would go unnoticed.
+    ::fcntl(d->master, F_SETFD, FD_CLOEXEC);
+    ::fcntl(d->slave, F_SETFD, FD_CLOEXEC);
+    d->wake = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
     m_portName = QString::fromLocal8Bit(name);
     d->thread = std::thread([this] { d->loop(); });
     return true;
