@@ -34,8 +34,8 @@ void TestExecutionTracker::sureBlocks_data()
         << QList<int>{0, 0, 0, 0, 0, 0, 0, 0};
     QTest::newRow("relative raster row, a move under one step")
         << QStringList{"G91", "G1X0.1S200", "X0.05S0", "X-3", "G90X0"} << QList<int>{0, 1, 0, 1, 1};
-    QTest::newRow("inches")
-        << QStringList{"G20", "G91", "G1X0.01", "X0.001"} << QList<int>{0, 0, 1, 0};
+    QTest::newRow("inches") << QStringList{"G20", "G91", "G1X0.01", "X0.001"}
+                            << QList<int>{0, 0, 1, 0};
     QTest::newRow("position unknown after origin set and homing")
         << QStringList{"G92X0Y0", "G1X5", "G1X5Y5", "$H", "G91X1", "G90X7", "X8"}
         << QList<int>{0, 0, 0, 0, 1, 0, 1};
