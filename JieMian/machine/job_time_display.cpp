@@ -7,6 +7,9 @@
 #include "program_state.h"
 #include "ui_machine_panel.h"
 
+#include <QThread>
+#include <memory>
+
 JobTimeDisplay::JobTimeDisplay(MachineController *machine, MachinePanel *panel, QObject *parent)
     : QObject(parent), m_machine(machine), m_panel(panel)
 {
@@ -35,19 +38,33 @@ void JobTimeDisplay::onProgress(int percent)
 {
     if (percent != 0 || m_active || !m_machine)
         return;
-    const GrblMachineSettings settings =
-        GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
-    if (!JobTimeline::planFile(lumitra::programState().jobFilePath, settings, &m_timeline))
-        return;
     m_active = true;
+    m_planned = false;
     m_clock.start();
     m_tick.start();
-    refresh();
+    // Planned on a thread of its own: a long job takes a while.
+    const quint64 run = ++m_run;
+    const QString path = lumitra::programState().jobFilePath;
+    const GrblMachineSettings settings =
+        GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
+    auto result = std::make_shared<JobTimeline>();
+    auto ok = std::make_shared<bool>(false);
+    QThread *thread =
+        QThread::create([=] { *ok = JobTimeline::planFile(path, settings, result.get()); });
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, this, [this, run, result, ok] {
+        if (run != m_run || !m_active || !*ok)
+            return;
+        m_timeline = *result;
+        m_planned = true;
+        refresh();
+    });
+    thread->start();
 }
 
 void JobTimeDisplay::refresh(double elapsedSeconds)
 {
-    if (!m_active || !m_panel)
+    if (!m_active || !m_planned || !m_panel)
         return;
     const double elapsed = elapsedSeconds >= 0.0 ? elapsedSeconds : m_clock.elapsed() / 1000.0;
     const int answered = m_watched ? m_watched->lastAcknowledgedLine() : 0;

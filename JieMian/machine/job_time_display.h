@@ -14,9 +14,10 @@ class MachinePanel;
 // The time left of a running serial job, next to the panel's progress bar
 // (the elapsed time is the panel's running clock): the controller's planned
 // time of the lines not yet answered, scaled by how the real time compared
-// with the plan so far. Planned with the machine's settings as it last
-// reported them (its defaults otherwise) when the job starts; refreshed every
-// second; cleared when the job ends or stops. GUI thread.
+// with the plan so far. Planned on a worker thread with the machine's settings
+// as it last reported them (its defaults otherwise) when the job starts;
+// refreshed every second once planned; cleared when the job ends or stops.
+// GUI thread.
 class JobTimeDisplay : public QObject
 {
     Q_OBJECT
@@ -43,6 +44,8 @@ private:
     QPointer<Jk_com> m_watched;
     JobTimeline m_timeline;
     bool m_active = false;
+    bool m_planned = false; // m_timeline is the running job's
+    quint64 m_run = 0;
     QElapsedTimer m_clock;
     QTimer m_tick;
 };

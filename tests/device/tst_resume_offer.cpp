@@ -143,7 +143,10 @@ void TestResumeOffer::dialog()
     QCOMPARE(d.resumePoint(), lumitra::gcode::modalStateBefore(job(), line + 1).position);
     QVERIFY(d.markerInPreview() != before);
     QVERIFY(isMarker(d.previewImage(), d.markerInPreview()));
-    QCOMPARE(d.form().preview_Lab->pixmap()->toImage().convertToFormat(QImage::Format_ARGB32),
+    QCOMPARE(d.form()
+                 .preview_Lab->pixmap(Qt::ReturnByValue)
+                 .toImage()
+                 .convertToFormat(QImage::Format_ARGB32),
              d.previewImage().convertToFormat(QImage::Format_ARGB32));
 
     QSignalSpy accepted(&d, &QDialog::accepted);
