@@ -218,14 +218,15 @@ void TestResumeOffer::offerAfterAnInterruption()
 void TestResumeOffer::timeLeftWhileRunning()
 {
     GrblFake::Options o;
-    o.motionMsPerLine = 10;
+    o.motionMsPerLine = 25;
     GrblFake fake(o);
-    QVERIFY(connectTo(fake));
+    // Made with the window, before the link exists.
     JobTimeDisplay display(m_controller.get(), m_panel.get());
+    QVERIFY(connectTo(fake));
     const QStringList lines = job();
     QSignalSpy finished(m_controller->link(), &Jk_com::jobFinished);
     m_controller->runJob(writeJob(lines));
-    QTRY_VERIFY(display.text().startsWith(QString("剩余 ")));
+    QTRY_VERIFY_WITH_TIMEOUT(display.text().startsWith(QString("剩余 ")), 15000);
     QCOMPARE(display.timeline().lines(), lines.size());
     QVERIFY(display.timeline().totalSeconds() > 0.0);
     // What it shows is the plan of the lines not yet answered.
@@ -236,7 +237,7 @@ void TestResumeOffer::timeLeftWhileRunning()
     for (int a = before; a <= after; ++a)
         possible << QString("剩余 ") + formatRunTime(display.timeline().remainingSeconds(a, 0.0));
     QVERIFY2(possible.contains(display.text()), qPrintable(display.text()));
-    QVERIFY(finished.wait(20000));
+    QVERIFY(finished.wait(30000));
     QVERIFY(display.text().isEmpty());
 }
 

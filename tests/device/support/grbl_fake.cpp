@@ -375,7 +375,7 @@ struct GrblFake::Impl
             return; // an empty block is not planned
         b.start = std::max(t, planner.empty() ? t : planner.back().end);
         if (held && planner.empty())
-            b.start = std::max(b.start, heldAt);
+            b.start = heldAt; // frozen time: it starts when the hold ends
         b.end = b.start + opt.motionMsPerLine / 1000.0 + length * opt.msPerMm / 1000.0;
         planned = to;
         planner.push_back(b);
