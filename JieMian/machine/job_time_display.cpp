@@ -47,10 +47,10 @@ void JobTimeDisplay::onProgress(int percent)
     const QString path = lumitra::programState().jobFilePath;
     const GrblMachineSettings settings =
         GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
-    auto result = std::make_shared<JobTimeline>();
+    auto result = std::make_shared<PlannedJobTime>();
     auto ok = std::make_shared<bool>(false);
     QThread *thread =
-        QThread::create([=] { *ok = JobTimeline::planFile(path, settings, result.get()); });
+        QThread::create([=] { *ok = PlannedJobTime::planFile(path, settings, result.get()); });
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     connect(thread, &QThread::finished, this, [this, run, result, ok] {
         if (run != m_run || !m_active || !*ok)

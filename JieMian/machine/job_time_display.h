@@ -1,6 +1,6 @@
 #pragma once
 
-#include "job_timeline.h"
+#include "planned_job_time.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -29,7 +29,7 @@ public:
     void watchLink();
     // The label's text now ("剩余 12:34"; empty with no job).
     QString text() const;
-    const JobTimeline &timeline() const { return m_timeline; }
+    const PlannedJobTime &timeline() const { return m_timeline; }
 
 public slots:
     // Refreshes the label; `elapsedSeconds` < 0 takes the real time since the start.
@@ -42,7 +42,7 @@ private:
     QPointer<MachineController> m_machine;
     QPointer<MachinePanel> m_panel;
     QPointer<Jk_com> m_watched;
-    JobTimeline m_timeline;
+    PlannedJobTime m_timeline;
     bool m_active = false;
     bool m_planned = false; // m_timeline is the running job's
     quint64 m_run = 0;

@@ -11,16 +11,16 @@
 // once over the whole job; at a few hundred checkpoints it is run to a stop to
 // give the time through that line, and lines in between are interpolated.
 // Plain class, any thread.
-class JobTimeline
+class PlannedJobTime
 {
 public:
     static constexpr int kCheckpoints = 256;
 
-    JobTimeline() = default;
-    static JobTimeline plan(const QStringList &job, const GrblMachineSettings &settings);
+    PlannedJobTime() = default;
+    static PlannedJobTime plan(const QStringList &job, const GrblMachineSettings &settings);
     // Streams the file; false when it cannot be read.
     static bool planFile(const QString &path, const GrblMachineSettings &settings,
-                         JobTimeline *timeline);
+                         PlannedJobTime *timeline);
 
     int lines() const { return m_lineCount; }
     double totalSeconds() const { return m_total; }

@@ -1,11 +1,11 @@
 #include "grbl_time_estimator.h"
-#include "job_timeline.h"
+#include "planned_job_time.h"
 
 #include <QBuffer>
 #include <QtTest>
 
 // The planned time line by line behind the remaining-time display.
-class TestJobTimeline : public QObject
+class TestPlannedJobTime : public QObject
 {
     Q_OBJECT
 
@@ -31,19 +31,19 @@ QStringList rows(int count)
 }
 } // namespace
 
-void TestJobTimeline::followsThePlan_data()
+void TestPlannedJobTime::followsThePlan_data()
 {
     QTest::addColumn<int>("rowCount");
     QTest::newRow("fewer lines than checkpoints") << 20;
     QTest::newRow("more lines than checkpoints") << 400;
 }
 
-void TestJobTimeline::followsThePlan()
+void TestPlannedJobTime::followsThePlan()
 {
     QFETCH(int, rowCount);
     const QStringList job = rows(rowCount);
     const GrblMachineSettings settings;
-    const JobTimeline t = JobTimeline::plan(job, settings);
+    const PlannedJobTime t = PlannedJobTime::plan(job, settings);
 
     QByteArray bytes = job.join('\n').toLatin1();
     QBuffer buffer(&bytes);
@@ -65,7 +65,7 @@ void TestJobTimeline::followsThePlan()
     QVERIFY2(half > 0.4 && half < 0.6, qPrintable(QString::number(half)));
 }
 
-void TestJobTimeline::remainingIsCorrectedByTheRealTime_data()
+void TestPlannedJobTime::remainingIsCorrectedByTheRealTime_data()
 {
     QTest::addColumn<double>("speed"); // real time / planned time so far
     QTest::addColumn<double>("scale"); // what the rest is scaled by
@@ -75,26 +75,26 @@ void TestJobTimeline::remainingIsCorrectedByTheRealTime_data()
     QTest::newRow("faster is bounded") << 0.1 << 0.5;
 }
 
-void TestJobTimeline::remainingIsCorrectedByTheRealTime()
+void TestPlannedJobTime::remainingIsCorrectedByTheRealTime()
 {
     QFETCH(double, speed);
     QFETCH(double, scale);
     const QStringList job = rows(400);
-    const JobTimeline t = JobTimeline::plan(job, GrblMachineSettings());
+    const PlannedJobTime t = PlannedJobTime::plan(job, GrblMachineSettings());
     const int line = job.size() / 3;
     const double done = t.secondsThrough(line);
-    QVERIFY(done > JobTimeline::kCorrectAfter);
+    QVERIFY(done > PlannedJobTime::kCorrectAfter);
     const double rest = t.totalSeconds() - done;
     QVERIFY(qAbs(t.remainingSeconds(line, done * speed) - rest * scale) < 1e-6);
     // Too early to judge: the plan alone.
     const int early = 6;
-    QVERIFY(t.secondsThrough(early) < JobTimeline::kCorrectAfter);
+    QVERIFY(t.secondsThrough(early) < PlannedJobTime::kCorrectAfter);
     QVERIFY(qAbs(t.remainingSeconds(early, 100.0) - (t.totalSeconds() - t.secondsThrough(early)))
             < 1e-6);
     QCOMPARE(t.remainingSeconds(job.size(), 1.0), 0.0);
 }
 
-void TestJobTimeline::format_data()
+void TestPlannedJobTime::format_data()
 {
     QTest::addColumn<double>("seconds");
     QTest::addColumn<QString>("text");
@@ -105,11 +105,11 @@ void TestJobTimeline::format_data()
     QTest::newRow("negative") << -5.0 << "0:00";
 }
 
-void TestJobTimeline::format()
+void TestPlannedJobTime::format()
 {
     QFETCH(double, seconds);
     QTEST(formatRunTime(seconds), "text");
 }
 
-QTEST_GUILESS_MAIN(TestJobTimeline)
-#include "tst_job_timeline.moc"
+QTEST_GUILESS_MAIN(TestPlannedJobTime)
+#include "tst_planned_job_time.moc"

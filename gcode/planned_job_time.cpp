@@ -1,11 +1,11 @@
-#include "job_timeline.h"
+#include "planned_job_time.h"
 
 #include "grbl_time_estimator.h"
 
 #include <QFile>
 #include <cmath>
 
-class JobTimeline::Builder
+class PlannedJobTime::Builder
 {
 public:
     Builder(const GrblMachineSettings &settings, int lineCount)
@@ -26,7 +26,7 @@ public:
         }
     }
 
-    JobTimeline finish()
+    PlannedJobTime finish()
     {
         m_timeline.m_total = m_estimator.seconds();
         m_timeline.m_lineCount = m_line;
@@ -39,10 +39,10 @@ private:
     GrblTimeEstimator m_estimator;
     int m_every;
     int m_line = 0;
-    JobTimeline m_timeline;
+    PlannedJobTime m_timeline;
 };
 
-JobTimeline JobTimeline::plan(const QStringList &job, const GrblMachineSettings &settings)
+PlannedJobTime PlannedJobTime::plan(const QStringList &job, const GrblMachineSettings &settings)
 {
     Builder b(settings, job.size());
     for (const QString &line : job)
@@ -50,8 +50,8 @@ JobTimeline JobTimeline::plan(const QStringList &job, const GrblMachineSettings 
     return b.finish();
 }
 
-bool JobTimeline::planFile(const QString &path, const GrblMachineSettings &settings,
-                           JobTimeline *timeline)
+bool PlannedJobTime::planFile(const QString &path, const GrblMachineSettings &settings,
+                              PlannedJobTime *timeline)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -73,7 +73,7 @@ bool JobTimeline::planFile(const QString &path, const GrblMachineSettings &setti
     return true;
 }
 
-double JobTimeline::secondsThrough(int line) const
+double PlannedJobTime::secondsThrough(int line) const
 {
     if (m_marks.isEmpty() || line <= 0)
         return 0.0;
@@ -86,7 +86,7 @@ double JobTimeline::secondsThrough(int line) const
     return m_seconds[lo] + k * (m_seconds[hi] - m_seconds[lo]);
 }
 
-double JobTimeline::remainingSeconds(int acknowledged, double elapsed) const
+double PlannedJobTime::remainingSeconds(int acknowledged, double elapsed) const
 {
     const double done = secondsThrough(acknowledged);
     double rest = qMax(0.0, m_total - done);
