@@ -9,6 +9,7 @@
 #include "job_export.h"
 #include "language.h"
 #include "qidongye.h"
+#include "resume_plan.h"
 #include "unix_signals.h"
 #include "widget.h"
 #include "work_area.h"
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QLoggingCategory>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTranslator>
 
@@ -56,7 +58,34 @@ int runSender(const CommandLine &cl)
 {
     QTextStream out(stdout);
     QTextStream err(stderr);
-    return runJobHeadless(cl.port, cl.runFile, cl.home, out, err);
+    HeadlessRunOptions options;
+    options.onStoppable = [](const std::function<void()> &stop) {
+        set_terminate_signal_handler(stop);
+    };
+    if (cl.fromLine <= 0)
+        return runJobHeadless(cl.port, cl.runFile, cl.home, out, err, options);
+    // --from-line: the job's state at that line, then the rest of the job.
+    QStringList job;
+    QString error;
+    if (!gcode::readJobLines(cl.runFile, &job, &error)) {
+        err << "cannot read the job file " << cl.runFile << ": " << error << "\n";
+        return HeadlessBadFile;
+    }
+    if (cl.fromLine > job.size()) {
+        err << "the job has only " << job.size() << " lines\n";
+        return HeadlessBadFile;
+    }
+    const gcode::ResumeJob resumed = gcode::buildResumeJob(job, cl.fromLine);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QFileInfo(cl.runFile).fileName());
+    if (!dir.isValid() || !gcode::writeJobLines(file, resumed.lines, &error)) {
+        err << "cannot write the resumed job: " << error << "\n";
+        return HeadlessBadFile;
+    }
+    options.preambleLines = resumed.preambleLines;
+    options.firstJobLine = resumed.fromLine;
+    out << "resuming at line " << resumed.fromLine << " of " << job.size() << "\n";
+    return runJobHeadless(cl.port, file, cl.home, out, err, options);
 }
 
 // --wifi ... --run: uploads and starts the file through the window's HttpThread.

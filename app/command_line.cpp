@@ -20,7 +20,8 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("Lumitra: design and run jobs on GRBL laser engravers.\n"
                        "Without options the window opens. Headless modes:\n"
                        "  --export INPUT -o OUTPUT   write the G-code job of a design file\n"
-                       "  --port PORT --run FILE     stream a G-code file to a controller\n"
+                       "  --port PORT --run FILE [--from-line N]\n"
+                       "                             stream a G-code file to a controller\n"
                        "  --wifi HOST[:PORT] --run FILE [--ws-port N]\n"
                        "                             run a G-code file on a WiFi controller\n"
                        "  --camera HOST[:PORT] -o PHOTO.png\n"
@@ -66,6 +67,11 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("DUMP"));
     const QCommandLineOption homeOpt(QStringLiteral("home"),
                                      QStringLiteral("Home the machine before the job."));
+    const QCommandLineOption fromLineOpt(
+        QStringLiteral("from-line"),
+        QStringLiteral("Resume the --run job at this line (the one an interrupted run printed): "
+                       "its state is restored and the head moves there with the laser off."),
+        QStringLiteral("N"));
     parser.addOption(exportOpt);
     parser.addOption(outputOpt);
     const QMap<QString, QString> optionHelp = {
@@ -92,6 +98,7 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(cameraOpt);
     parser.addOption(estimateOpt);
     parser.addOption(settingsOpt);
+    parser.addOption(fromLineOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Design files to open in the window."),
                                  QStringLiteral("[files...]"));
@@ -136,6 +143,14 @@ CommandLine parse_command_line(const QStringList &arguments)
     }
     if (parser.isSet(settingsOpt))
         return usage(QStringLiteral("--settings is only used with --estimate"));
+    if (parser.isSet(fromLineOpt)) {
+        if (!parser.isSet(runOpt) || !parser.isSet(portOpt))
+            return usage(QStringLiteral("--from-line is only used with --port PORT --run FILE"));
+        bool ok = false;
+        result.fromLine = parser.value(fromLineOpt).toInt(&ok);
+        if (!ok || result.fromLine < 1)
+            return usage(QStringLiteral("--from-line needs a line number (1 or more)"));
+    }
     if (exporting && running)
         return usage(QStringLiteral("--export and --run cannot be used together"));
     if (parser.isSet(cameraOpt)) {

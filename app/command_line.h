@@ -20,10 +20,12 @@ struct CommandLine
     QString output;
     QMap<QString, QString> processOptions; // option name -> value text, as given
 
-    // --port PORT --run FILE [--home]
+    // --port PORT --run FILE [--home] [--from-line N]
     QString port;
     QString runFile;
     bool home = false;
+    // --from-line N: resume the job at its line N (1-based); 0: from the start.
+    int fromLine = 0;
 
     // --wifi HOST[:PORT] --run FILE [--ws-port N]: the board's address as
     // given (HTTP port 80 when absent) and its WebSocket port.

@@ -10,6 +10,7 @@
 
 namespace {
 int g_signalPipe[2] = {-1, -1};
+std::function<void()> g_handler;
 
 void onSignal(int)
 {
@@ -32,7 +33,10 @@ void install_quit_on_terminate_signals()
     QObject::connect(notifier, &QSocketNotifier::activated, notifier, [] {
         char byte;
         [[maybe_unused]] const ssize_t n = ::read(g_signalPipe[1], &byte, 1);
-        QCoreApplication::exit(0);
+        if (g_handler)
+            g_handler();
+        else
+            QCoreApplication::exit(0);
     });
     struct sigaction action = {};
     action.sa_handler = onSignal;
@@ -42,9 +46,15 @@ void install_quit_on_terminate_signals()
     sigaction(SIGINT, &action, nullptr);
 }
 
+void set_terminate_signal_handler(const std::function<void()> &handler)
+{
+    g_handler = handler;
+}
+
 } // namespace lumitra
 #else
 namespace lumitra {
 void install_quit_on_terminate_signals() {}
+void set_terminate_signal_handler(const std::function<void()> &) {}
 } // namespace lumitra
 #endif

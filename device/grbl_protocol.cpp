@@ -89,7 +89,12 @@ QString normaliseStatus(const QString &report)
     const int yEnd = report.indexOf(QLatin1Char(','), xEnd + 1);
     const QString y = span(report, xEnd + 1, yEnd);
 
-    const int fStart = report.indexOf(QLatin1Char(':'), yEnd + 1) + 1;
+    // The feed field, also when fields such as "Bf:" come before it.
+    int fStart = report.indexOf(QLatin1String("|FS:"), yEnd + 1);
+    if (fStart < 0)
+        fStart = report.indexOf(QLatin1String("|F:"), yEnd + 1);
+    fStart = fStart >= 0 ? report.indexOf(QLatin1Char(':'), fStart) + 1
+                         : report.indexOf(QLatin1Char(':'), yEnd + 1) + 1;
     const int fEnd = report.indexOf(QLatin1Char(','), fStart);
     const QString f = span(report, fStart, fEnd);
     const QString s = span(report, fEnd + 1, report.indexOf(QLatin1Char('|'), fEnd + 1));

@@ -2,6 +2,7 @@
 
 #include "jk_com.h"
 #include "program_state.h"
+#include "stream_state.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -16,7 +17,7 @@ class HeadlessRun
 {
 public:
     HeadlessRun(Jk_com &com, bool home, QTextStream &out, const HeadlessRunOptions &options)
-        : m_com(com), m_home(home), m_out(out)
+        : m_com(com), m_home(home), m_out(out), m_options(options)
     {
         m_silence.setSingleShot(true);
         m_silence.setInterval(options.silenceTimeoutMs);
@@ -24,10 +25,17 @@ public:
             fail(HeadlessSilent, QStringLiteral("the controller stopped answering"));
         });
         QObject::connect(&com, &Jk_com::yi_lian_jie, &m_loop, [this](bool linked) {
-            linked ? startJob()
-                   : fail(HeadlessNoHandshake,
-                          QStringLiteral("no answer to the handshake from the controller"));
+            if (!linked) {
+                fail(HeadlessNoHandshake,
+                     QStringLiteral("no answer to the handshake from the controller"));
+                return;
+            }
+            if (m_home)
+                m_com.queueText(QStringLiteral("$H\n"));
+            m_linked = true;
+            askForReport();
         });
+        QObject::connect(&com, &Jk_com::reportFieldsReady, &m_loop, [this] { startJob(); });
         QObject::connect(&com, &Jk_com::lineReceived, &m_loop,
                          [this](const QString &line) { onLine(line); });
         QObject::connect(&com, &Jk_com::diao_ke_jin_du, &m_loop, [this](int percent) {
@@ -40,6 +48,7 @@ public:
                 finish(HeadlessDone, QString());
         });
         QObject::connect(&com, &Jk_com::deviceFault, &m_loop, [this](const QString &line) {
+            m_positionLost = true;
             fail(HeadlessMachineFault, QStringLiteral("controller reported: ") + line.trimmed());
         });
         QObject::connect(&com, &Jk_com::linkLost, &m_loop, [this](const QString &reason) {
@@ -54,25 +63,71 @@ public:
     }
     const QString &reason() const { return m_reason; }
 
+    void stop() { fail(HeadlessStopped, QStringLiteral("stopped on request")); }
+
+    // After an interruption: the line to resume from, in the original job.
+    void reportResumeLine()
+    {
+        if (!m_jobStarted || m_result == HeadlessDone)
+            return;
+        const int executed = toJobLine(m_com.lastExecutedLine());
+        const int answered = toJobLine(m_com.lastAcknowledgedLine());
+        m_out << "stopped after line " << answered << " was answered, line "
+              << toJobLine(m_com.lastSentLine()) << " sent; resume from line " << executed + 1
+              << "\n";
+        if (m_positionLost)
+            m_out << "the controller was reset: home it or set the origin again before "
+                     "resuming\n";
+        m_out.flush();
+    }
+
 private:
+    int toJobLine(int fileLine) const
+    {
+        if (fileLine <= m_options.preambleLines)
+            return m_options.firstJobLine - 1;
+        return m_options.firstJobLine + fileLine - m_options.preambleLines - 1;
+    }
+
     void startJob()
     {
-        if (m_home)
-            m_com.queueText(QStringLiteral("$H\n"));
+        if (m_jobStarted)
+            return;
+        m_jobStarted = true;
         m_com.queueText(QStringLiteral("yunxing"));
+    }
+
+    // Once the handshake and homing are answered, one status report tells the
+    // fields the controller reports; the job starts after it.
+    void askForReport()
+    {
+        if (m_linked && !m_reportAsked && m_com.stream().drained()) {
+            m_reportAsked = true;
+            m_com.requestStatus();
+        }
     }
 
     void onLine(const QString &line)
     {
         m_silence.start();
-        if (line.startsWith(QLatin1String("error:")) || line.startsWith(QLatin1String("ALARM:")))
+        askForReport();
+        // An "error:" before the job belongs to what an earlier session left
+        // (the laser-off line a controller in alarm refuses).
+        const bool error = line.startsWith(QLatin1String("error:"));
+        if (error && !m_jobStarted)
+            return;
+        if (error || line.startsWith(QLatin1String("ALARM:"))) {
+            m_positionLost |= line.startsWith(QLatin1String("ALARM:"));
             fail(HeadlessMachineFault, QStringLiteral("controller reported: ") + line.trimmed());
+        }
     }
 
     void fail(int code, const QString &reason)
     {
         if (m_result >= 0)
             return;
+        // A reset while the machine may be moving loses its position.
+        m_positionLost |= m_jobStarted && m_com.isOpen();
         m_com.softReset();
         finish(code, reason);
     }
@@ -89,6 +144,11 @@ private:
     Jk_com &m_com;
     bool m_home;
     QTextStream &m_out;
+    HeadlessRunOptions m_options;
+    bool m_jobStarted = false;
+    bool m_linked = false;
+    bool m_reportAsked = false;
+    bool m_positionLost = false;
     QEventLoop m_loop;
     QTimer m_silence;
     bool m_allSent = false;
@@ -119,8 +179,13 @@ int runJobHeadless(const QString &port, const QString &file, bool home, QTextStr
     }
     out << "opened " << port << ", waiting for the controller\n";
     out.flush();
+    if (options.onStoppable)
+        options.onStoppable([&run] { run.stop(); });
     const int code = run.exec();
+    if (options.onStoppable)
+        options.onStoppable({});
     com.disconnectPort();
+    run.reportResumeLine();
     if (code == HeadlessDone) {
         out << "done\n";
         out.flush();

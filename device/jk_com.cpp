@@ -1,5 +1,6 @@
 #include "jk_com.h"
 
+#include "execution_tracker.h"
 #include "grbl_protocol.h"
 #include "program_state.h"
 #include "read_txt_thread.h"
@@ -181,6 +182,7 @@ void Jk_com::handleLine(const QString &line)
         break;
     case SerialLine::Setting:
         m_info.readSetting(line);
+        takeStepSizes();
         break;
     case SerialLine::Alarm:
         qDebug() << "Alarm";
@@ -192,6 +194,7 @@ void Jk_com::handleLine(const QString &line)
         break;
     case SerialLine::Status:
         m_machineMoving = lumitra::grbl::statusShowsMotion(line);
+        checkReportFields(line);
         emit shu_chu_zhuang_tai(lumitra::grbl::serialStatusText(line));
         break;
     case SerialLine::Version:
@@ -229,12 +232,46 @@ void Jk_com::completeHandshake()
 {
     m_handshakeDone = true;
     m_handshakeTimer.stop();
+    m_firstReportSeen = false;
+    m_reportsBuffer = false;
     emit yi_lian_jie(true);
     if (!isOpen())
         return; // the handler disconnected
     m_running = true;
     start();
     m_pollTimer.start();
+}
+
+void Jk_com::checkReportFields(const QString &report)
+{
+    m_reportsBuffer = lumitra::grbl::blocksFree(report) >= 0;
+    m_statusMask = lumitra::grbl::statusMaskWithBuffer(report);
+    if (m_firstReportSeen || !m_handshakeDone)
+        return;
+    m_firstReportSeen = true;
+    emit reportFieldsReady();
+}
+
+void Jk_com::takeStepSizes()
+{
+    const double x = m_info.map().value(QStringLiteral("$100")).toDouble();
+    const double y = m_info.map().value(QStringLiteral("$101")).toDouble();
+    m_stream->setStepSizes(x > 0.0 ? 1.0 / x : 0.0, y > 0.0 ? 1.0 / y : 0.0);
+}
+
+int Jk_com::lastExecutedLine() const
+{
+    return m_stream->lastExecutedLine();
+}
+
+int Jk_com::lastAcknowledgedLine() const
+{
+    return m_stream->lastAcknowledgedLine();
+}
+
+int Jk_com::lastSentLine() const
+{
+    return m_stream->lastSentJobLine();
 }
 
 void Jk_com::faultReset(const QString &line, bool writeReset)
@@ -331,6 +368,11 @@ void Jk_com::startFileRun()
         m_reader->wait();
     }
     const QString path = lumitra::programState().jobFilePath;
+    if (m_firstReportSeen && !m_reportsBuffer) {
+        // Ask for the planner's free blocks in every report from now on.
+        queueText(QStringLiteral("$10=%1").arg(m_statusMask));
+        m_reportsBuffer = true;
+    }
     m_stream->beginJob(countFileLines(path));
     auto *reader = new ReadTxtThread(path, m_stream);
     connect(reader, &QThread::finished, this, &Jk_com::onReaderFinished);

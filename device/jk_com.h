@@ -80,6 +80,20 @@ public:
     bool isLinked() const { return m_handshakeDone; }
     // A file run is streaming (from "yunxing" until jobFinished or a stop).
     bool jobRunning() const { return m_fileRunActive; }
+
+    // Lines of the file run (1-based, counted from the file's first line): the
+    // last one the controller has executed (every line up to it has run; see
+    // ExecutionTracker for how "ok"s and the status report's "Bf:" field tell
+    // it), the last one answered "ok", and the last one sent. They stay as
+    // they were after a stop, an alarm or a lost port, until the next run.
+    int lastExecutedLine() const;
+    int lastAcknowledgedLine() const;
+    int lastSentLine() const;
+    // The status reports carry the planner's free blocks ("Bf:"). When they
+    // do not, a file run starts with "$10=<mask>" (keeping the reports'
+    // MPos/WPos choice, adding the buffer field; the controller keeps the
+    // setting, the previous value is not restored).
+    bool reportsBufferField() const { return m_reportsBuffer; }
     const QMap<QString, QString> &deviceInfo() const { return m_info.map(); }
     StreamState &stream() const { return *m_stream; }
     QString portName() const { return m_portName; }
@@ -113,6 +127,9 @@ signals:
     void linkLost(const QString &reason);
     // Every line of the file run was sent and acknowledged.
     void jobFinished();
+    // The first status report after the handshake was read: a file run
+    // started from now on turns the buffer field on when it is missing.
+    void reportFieldsReady();
 
 public slots:
     // Write handler: `text` as UTF-8 when the port is open.
@@ -140,6 +157,8 @@ private:
     void onPortFailed(quint64 session, const QString &reason);
     void shutDown();
     void forgetStaleLines();
+    void checkReportFields(const QString &report);
+    void takeStepSizes();
 
     QThread m_ioThread;
     SerialPortWorker *m_worker = nullptr; // lives on m_ioThread
@@ -159,6 +178,9 @@ private:
     bool m_machineMoving = false; // last status report showed motion
     bool m_laserOn = false;       // test fire on
     bool m_readerDone = false;
+    bool m_firstReportSeen = false;
+    bool m_reportsBuffer = false;
+    int m_statusMask = 3;
     // Lines the send loop emitted; those emitted before a stop are not written
     // after it.
     std::atomic<quint64> m_linesEmitted{0};

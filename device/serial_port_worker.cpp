@@ -185,9 +185,23 @@ void SerialPortWorker::jie_shou()
     const QStringList lines = m_assembler.feed(m_port->readAll());
     if (lines.isEmpty())
         return;
+    // In arrival order, so that a status report is read against exactly the
+    // answers that came before it.
     for (const QString &line : lines) {
-        if (lumitra::grbl::classifySerialLine(line) == lumitra::grbl::SerialLine::Ok)
+        switch (lumitra::grbl::classifySerialLine(line)) {
+        case lumitra::grbl::SerialLine::Ok:
             m_stream->releaseOldest();
+            break;
+        case lumitra::grbl::SerialLine::Status:
+            m_stream->noteStatusReport(line);
+            break;
+        case lumitra::grbl::SerialLine::Alarm:
+        case lumitra::grbl::SerialLine::Error:
+            m_stream->freezeExecution();
+            break;
+        default:
+            break;
+        }
     }
     emit linesReceived(m_session, lines);
 }

@@ -7,6 +7,8 @@ void StreamState::enqueue(const QStringList &lines)
 {
     QMutexLocker lock(&m_mutex);
     m_queue.append(lines);
+    for (int i = 0; i < lines.size(); ++i)
+        m_queueJobLines.append(0);
     notePeak();
     m_changed.wakeAll();
 }
@@ -25,6 +27,8 @@ bool StreamState::appendPending(const QStringList &lines, quint64 generation)
     if (generation != m_generation)
         return false;
     m_pending.append(lines);
+    for (int i = 0; i < lines.size(); ++i)
+        m_pendingJobLines.append(m_nextJobLine++);
     notePeak();
     m_changed.wakeAll();
     return true;
@@ -46,6 +50,7 @@ bool StreamState::takeNext(Taken &taken, int waitMs)
     QMutexLocker lock(&m_mutex);
     if (m_queue.isEmpty() && !m_pending.isEmpty()) {
         m_queue.swap(m_pending);
+        m_queueJobLines.swap(m_pendingJobLines);
         m_changed.wakeAll();
     }
     if (m_queue.isEmpty() || holdActive()) {
@@ -53,6 +58,7 @@ bool StreamState::takeNext(Taken &taken, int waitMs)
         return false;
     }
     taken.line = m_queue.takeFirst() + QLatin1Char('\n');
+    taken.jobLine = m_queueJobLines.takeFirst();
     taken.bytes = taken.line.toUtf8().size();
     taken.generation = m_generation;
     m_taken = true;
@@ -79,7 +85,10 @@ bool StreamState::commit(const Taken &taken, const std::function<void(const QStr
     if (taken.generation != m_generation)
         return false;
     send(taken.line);
+    if (taken.jobLine > 0)
+        m_execution.lineSent(taken.jobLine, taken.line);
     m_inFlight.append(taken.bytes);
+    m_inFlightJobLines.append(taken.jobLine);
     m_inFlightBytes += taken.bytes;
     return true;
 }
@@ -90,7 +99,9 @@ void StreamState::refillIfLow()
     if (m_pending.isEmpty() || m_queue.size() >= kRefillBelow)
         return;
     m_queue.append(m_pending);
+    m_queueJobLines.append(m_pendingJobLines);
     m_pending.clear();
+    m_pendingJobLines.clear();
     notePeak();
     m_changed.wakeAll();
 }
@@ -99,6 +110,7 @@ void StreamState::countDirect(int bytes)
 {
     QMutexLocker lock(&m_mutex);
     m_inFlight.append(bytes);
+    m_inFlightJobLines.append(0);
     m_inFlightBytes += bytes;
 }
 
@@ -108,17 +120,65 @@ void StreamState::releaseOldest()
     if (m_inFlight.isEmpty() || holdActive())
         return;
     m_inFlightBytes -= m_inFlight.takeFirst();
+    m_execution.lineAcknowledged(m_inFlightJobLines.takeFirst());
     m_changed.wakeAll();
+}
+
+void StreamState::noteStatusReport(const QString &report)
+{
+    QMutexLocker lock(&m_mutex);
+    if (!holdActive())
+        m_execution.statusReport(report);
+}
+
+void StreamState::freezeExecution()
+{
+    QMutexLocker lock(&m_mutex);
+    m_execution.freeze();
+}
+
+void StreamState::setStepSizes(double xMm, double yMm)
+{
+    QMutexLocker lock(&m_mutex);
+    m_execution.setStepSizes(xMm, yMm);
+}
+
+int StreamState::lastExecutedLine() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_execution.lastExecutedLine();
+}
+
+int StreamState::lastAcknowledgedLine() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_execution.lastAcknowledgedLine();
+}
+
+int StreamState::lastSentJobLine() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_execution.lastSentLine();
+}
+
+int StreamState::plannerBlocksQueued() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_execution.blocksQueued();
 }
 
 void StreamState::clear()
 {
     QMutexLocker lock(&m_mutex);
     m_queue.clear();
+    m_queueJobLines.clear();
     m_pending.clear();
+    m_pendingJobLines.clear();
     m_inFlight.clear();
+    m_inFlightJobLines.clear();
     m_inFlightBytes = 0;
     m_taken = false;
+    m_execution.freeze();
     ++m_generation;
     m_changed.wakeAll();
 }
@@ -136,6 +196,7 @@ void StreamState::releaseResetHold()
     QMutexLocker lock(&m_mutex);
     m_resetHold = false;
     m_inFlight.clear();
+    m_inFlightJobLines.clear();
     m_inFlightBytes = 0;
     m_changed.wakeAll();
 }
@@ -146,6 +207,8 @@ void StreamState::beginJob(int totalLines)
     m_totalLines = totalLines;
     m_sentLines = 0;
     m_lastProgress = -1;
+    m_nextJobLine = 1;
+    m_execution.beginJob();
 }
 
 QList<int> StreamState::countSent()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "execution_tracker.h"
+
 #include <QElapsedTimer>
 #include <QList>
 #include <QMutex>
@@ -35,6 +37,7 @@ public:
         QString line;
         int bytes = 0;
         quint64 generation = 0;
+        int jobLine = 0; // 1-based line of the running job; 0 outside a job
     };
 
     // GUI thread: lines of a queue-text call, appended to the send queue.
@@ -69,9 +72,22 @@ public:
     // "ok": the oldest line in flight left the controller's buffer. Ignored while
     // a reset hold is on (those answers belong to lines the reset threw away).
     void releaseOldest();
+    // A status report, in the order it arrived among the "ok"s (I/O thread).
+    void noteStatusReport(const QString &report);
+    // An alarm (or a reset, a lost port): what the job has executed stays as it
+    // was until the next job.
+    void freezeExecution();
+    // Distance of one motor step on X and Y, for the execution figures.
+    void setStepSizes(double xMm, double yMm);
+    // Figures of the running (or last) job: see ExecutionTracker.
+    int lastExecutedLine() const;
+    int lastAcknowledgedLine() const;
+    int lastSentJobLine() const;
+    int plannerBlocksQueued() const;
 
     // Stop: empties the queue, the pending lines and the in-flight list, and
-    // drops a line the loop has taken but not sent.
+    // drops a line the loop has taken but not sent. The job's execution figures
+    // freeze.
     void clear();
     // After a soft reset was written: nothing is sent and no "ok" counts until
     // the controller's start-up banner (releaseResetHold) or `maxMs` at most.
@@ -107,8 +123,13 @@ private:
     mutable QMutex m_mutex;
     QWaitCondition m_changed;
     QStringList m_queue;
+    QList<int> m_queueJobLines; // per queued line: its job line, 0 outside a job
     QStringList m_pending;
+    QList<int> m_pendingJobLines;
+    int m_nextJobLine = 1;
     QList<int> m_inFlight;
+    QList<int> m_inFlightJobLines;
+    ExecutionTracker m_execution;
     int m_inFlightBytes = 0;
     quint64 m_generation = 0;
     bool m_taken = false;

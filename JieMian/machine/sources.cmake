@@ -8,6 +8,10 @@ target_sources(lumitra_jiemian PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/job_start_row.cpp
   ${CMAKE_CURRENT_LIST_DIR}/port_choice.cpp ${CMAKE_CURRENT_LIST_DIR}/port_choice.h
   ${CMAKE_CURRENT_LIST_DIR}/frame_area.cpp ${CMAKE_CURRENT_LIST_DIR}/frame_area.h
-  ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.h)
+  ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.cpp ${CMAKE_CURRENT_LIST_DIR}/wifi_link_controller.h
+  ${CMAKE_CURRENT_LIST_DIR}/resume_dialog.cpp ${CMAKE_CURRENT_LIST_DIR}/resume_dialog.h
+  ${CMAKE_CURRENT_LIST_DIR}/resume_dialog.ui
+  ${CMAKE_CURRENT_LIST_DIR}/resume_offer.cpp ${CMAKE_CURRENT_LIST_DIR}/resume_offer.h
+  ${CMAKE_CURRENT_LIST_DIR}/job_time_display.cpp ${CMAKE_CURRENT_LIST_DIR}/job_time_display.h)
 target_include_directories(lumitra_jiemian PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_link_libraries(lumitra_jiemian PUBLIC lumitra_device)

@@ -50,6 +50,19 @@ private slots:
         QTest::newRow("ws port out of range")
             << QStringList{"--wifi", "h", "--run", "a.nc", "--ws-port", "70000"}
             << int(CommandLine::Exit) << 2;
+        QTest::newRow("resume") << QStringList{"--port", "p", "--run", "a.nc", "--from-line", "7"}
+                                << int(CommandLine::Run) << 0;
+        QTest::newRow("resume without run")
+            << QStringList{"--from-line", "7"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("resume over wifi")
+            << QStringList{"--wifi", "h", "--run", "a.nc", "--from-line", "7"}
+            << int(CommandLine::Exit) << 2;
+        QTest::newRow("resume from line 0")
+            << QStringList{"--port", "p", "--run", "a.nc", "--from-line", "0"}
+            << int(CommandLine::Exit) << 2;
+        QTest::newRow("resume from no number")
+            << QStringList{"--port", "p", "--run", "a.nc", "--from-line", "x"}
+            << int(CommandLine::Exit) << 2;
     }
     void parse()
     {
@@ -84,6 +97,10 @@ private slots:
         QCOMPARE(cl.port, QStringLiteral("/dev/pts/3"));
         QCOMPARE(cl.runFile, QStringLiteral("job.nc"));
         QVERIFY(cl.home);
+        QCOMPARE(cl.fromLine, 0);
+        QCOMPARE(parse_command_line({"lumitra", "--port", "p", "--run", "j", "--from-line", "42"})
+                     .fromLine,
+                 42);
     }
 
     void wifiRunReadsAddressAndPorts_data()

@@ -101,6 +101,9 @@ void TestGrblVocabulary::statusText_data()
     QTest::newRow("colon in the state word: fields counted from it")
         << false << "<Hold:0|MPos:3.000,4.000,5.000|FS:0,0>"
         << "Hold:0 X:0|MPos:3.000 Y:4.000 F:0 S:0";
+    QTest::newRow("buffer field before the feed")
+        << false << "<Run|MPos:1.000,2.000,0.000|Bf:12,100|FS:600,300>"
+        << "Run X:1.000 Y:2.000 F:600 S:300";
     QTest::newRow("serial camera")
         << true << "<Idle|MPos:0.000,0.000,0.000|FS:0,0|Cam:1.2.3.4>\r" << kIdle + " Cam:1.2.3.4";
     QTest::newRow("serial carriage return kept") << true << kIdleReport + "\r" << kIdle + "\r";

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cmath>
 #include <deque>
 #include <fcntl.h>
 #include <functional>
@@ -42,8 +43,33 @@ struct GrblFake::Impl
     double bootUntil = -1.0;
     double busyUntil = 0.0;
     bool held = false;
-    double x = 0.0, y = 0.0;
+    double heldAt = 0.0;
+    double x = 0.0, y = 0.0; // where the head was at the end of the last block run
     int feed = 0;
+
+    // Parser state (what the next line is read with).
+    struct Parser
+    {
+        int motion = 0; // 0, 1, 2, 3
+        bool absolute = true;
+        bool inches = false;
+        int spindle = 5; // 3, 4 or 5
+        double s = 0.0;
+        double f = 0.0;
+    } parser;
+    QPointF planned; // where the last planned block ends
+
+    struct Block
+    {
+        QPointF from, to;
+        bool burning = false;
+        bool rapid = false;
+        double power = 0.0;
+        double feed = 0.0;
+        double start = 0.0, end = 0.0;
+    };
+    std::deque<Block> planner;
+    bool waitingForPlanner = false; // the head line waits for a block to finish
 
     // Shared.
     std::atomic_bool alarm{false};
@@ -60,6 +86,9 @@ struct GrblFake::Impl
     int resets = 0;
     QMap<int, QByteArray> replies;
     QMap<int, int> alarms;
+    QList<GrblFake::ExecutedMove> executed;
+    std::atomic_int queuedShared{0};
+    QPointF positionShared;
 
     double now() const { return std::chrono::duration<double>(Clock::now() - epoch).count(); }
 
@@ -82,15 +111,96 @@ struct GrblFake::Impl
         busyUntilShared = t;
     }
 
+    int settingValue(int number) const { return opt.settings.value(number).toInt(); }
+
+    // The time the planner has run up to: a hold freezes it.
+    double planTime(double t) const { return held && !planner.empty() ? heldAt : t; }
+
+    void record(const Block &b, const QPointF &to)
+    {
+        GrblFake::ExecutedMove m;
+        m.from = b.from;
+        m.to = to;
+        m.burning = b.burning;
+        m.rapid = b.rapid;
+        m.power = b.power;
+        std::lock_guard<std::mutex> lock(mutex);
+        executed.append(m);
+    }
+
+    void publish()
+    {
+        queuedShared = int(planner.size());
+        std::lock_guard<std::mutex> lock(mutex);
+        positionShared = QPointF(x, y);
+    }
+
+    // Finishes the blocks whose time has come by `t`.
+    void runPlanner(double t)
+    {
+        const double until = planTime(t);
+        bool changed = false;
+        while (!planner.empty() && planner.front().end <= until) {
+            const Block b = planner.front();
+            planner.pop_front();
+            record(b, b.to);
+            x = b.to.x();
+            y = b.to.y();
+            changed = true;
+        }
+        if (changed)
+            publish();
+    }
+
+    QPointF headAt(double t) const
+    {
+        if (planner.empty())
+            return QPointF(x, y);
+        const Block &b = planner.front();
+        const double at = planTime(t);
+        if (at <= b.start || b.end <= b.start)
+            return b.from;
+        const double k = std::min(1.0, (at - b.start) / (b.end - b.start));
+        return b.from + (b.to - b.from) * k;
+    }
+
+    // Reset or alarm: the running block stops where the head is, the rest is lost.
+    void killMotion(double t)
+    {
+        runPlanner(t);
+        if (!planner.empty()) {
+            const QPointF at = headAt(t);
+            if (planTime(t) > planner.front().start)
+                record(planner.front(), at);
+            x = at.x();
+            y = at.y();
+        }
+        planner.clear();
+        planned = QPointF(x, y);
+        waitingForPlanner = false;
+        publish();
+    }
+
     void reportStatus(double t)
     {
+        runPlanner(t);
         const char *state = alarm ? "Alarm" : held ? "Hold" : t < busyUntil ? "Run" : "Idle";
-        say(QStringLiteral("<%1|MPos:%2,%3,0.000|FS:%4,0>\r\n")
-                .arg(QLatin1String(state))
-                .arg(x, 0, 'f', 3)
-                .arg(y, 0, 'f', 3)
+        const int mask = settingValue(10);
+        const QPointF at = headAt(t);
+        QString report = QStringLiteral("<%1|%2:%3,%4,0.000")
+                             .arg(QLatin1String(state))
+                             .arg(QLatin1String(mask & 1 ? "MPos" : "WPos"))
+                             .arg(at.x(), 0, 'f', 3)
+                             .arg(at.y(), 0, 'f', 3);
+        if (mask & 2)
+            report += QStringLiteral("|Bf:%1,%2")
+                          .arg(opt.plannerBlocks - int(planner.size()))
+                          .arg(opt.receiveBuffer - int(rx.size()));
+        report +=
+            QStringLiteral("|FS:%1,%2>\r\n")
                 .arg(t < busyUntil ? feed : 0)
-                .toLatin1());
+                .arg(!planner.empty() && planner.front().burning ? planner.front().power : 0.0);
+        say(report.toLatin1());
     }
 
     void onRealTime(char c, double t)
@@ -103,12 +213,29 @@ struct GrblFake::Impl
         }
         if (c == '?') {
             reportStatus(t);
-        } else if (c == '!' || c == '~') {
-            held = c == '!';
+        } else if (c == '!') {
+            if (!held) {
+                runPlanner(t);
+                heldAt = t;
+            }
+            held = true;
+        } else if (c == '~') {
+            if (held) {
+                const double delay = t - heldAt;
+                for (Block &b : planner) {
+                    b.start += delay;
+                    b.end += delay;
+                }
+                if (!planner.empty())
+                    setBusyUntil(busyUntil + delay);
+            }
+            held = false;
         } else { // soft reset: the buffer is dropped and the banner printed
+            killMotion(t);
             rx.clear();
             headReadyAt = -1.0;
             held = false;
+            parser = Parser();
             setBusyUntil(t);
             if (opt.resetBootMs > 0) {
                 bootUntil = t + opt.resetBootMs / 1000.0;
@@ -148,25 +275,185 @@ struct GrblFake::Impl
         }
     }
 
-    void moveTo(const QString &line, double t)
+    struct Words
     {
-        static const QRegularExpression word(QStringLiteral("([XYF])(-?\\d*\\.?\\d+)"));
-        const bool relative = line.contains(QLatin1String("G91"));
-        bool moved = false;
-        for (auto it = word.globalMatch(line); it.hasNext();) {
+        QList<double> g, m;
+        bool hasX = false, hasY = false, hasS = false, hasF = false;
+        double x = 0, y = 0, s = 0, f = 0;
+        bool jog = false;
+    };
+
+    static Words readWords(const QString &line)
+    {
+        static const QRegularExpression word(QStringLiteral("([A-Z])\\s*([-+]?\\d*\\.?\\d+)"));
+        Words w;
+        QString text = line.toUpper();
+        const int comment = text.indexOf(QLatin1Char(';'));
+        if (comment >= 0)
+            text.truncate(comment);
+        if (text.startsWith(QLatin1String("$J="))) {
+            w.jog = true;
+            text = text.mid(3);
+        }
+        for (auto it = word.globalMatch(text); it.hasNext();) {
             const auto m = it.next();
             const double v = m.captured(2).toDouble();
-            const QChar axis = m.captured(1).at(0);
-            if (axis == QLatin1Char('F')) {
-                feed = int(v);
-                continue;
+            switch (m.captured(1).at(0).unicode()) {
+            case 'G':
+                w.g.append(v);
+                break;
+            case 'M':
+                w.m.append(v);
+                break;
+            case 'X':
+                w.hasX = true;
+                w.x = v;
+                break;
+            case 'Y':
+                w.hasY = true;
+                w.y = v;
+                break;
+            case 'S':
+                w.hasS = true;
+                w.s = v;
+                break;
+            case 'F':
+                w.hasF = true;
+                w.f = v;
+                break;
+            default:
+                break;
             }
-            double &pos = axis == QLatin1Char('X') ? x : y;
-            pos = relative ? pos + v : v;
-            moved = true;
         }
-        if (moved)
-            setBusyUntil(std::max(busyUntil, t) + opt.motionMsPerLine / 1000.0);
+        return w;
+    }
+
+    // The spindle state a line leaves, or 0 when it does not change it.
+    int spindleAfter(const Words &w) const
+    {
+        for (double m : w.m) {
+            if (m == 3 || m == 4 || m == 5)
+                return int(m) != parser.spindle ? int(m) : 0;
+            if ((m == 2 || m == 30) && parser.spindle != 5)
+                return 5;
+        }
+        return 0;
+    }
+
+    static bool waitsForEmptyPlanner(const Words &w)
+    {
+        return w.g.contains(4) || w.m.contains(2) || w.m.contains(30);
+    }
+
+    // Whether the head line can be taken now: motion needs a free block, a
+    // synchronising line an empty planner.
+    bool canTake(const QString &line) const
+    {
+        const Words w = readWords(line);
+        if (w.jog || line.startsWith(QLatin1Char('$')))
+            return !w.jog || int(planner.size()) < opt.plannerBlocks;
+        if (alarm)
+            return true;
+        if (spindleAfter(w) != 0 || waitsForEmptyPlanner(w))
+            return planner.empty();
+        if (w.hasX || w.hasY)
+            return int(planner.size()) < opt.plannerBlocks;
+        return true;
+    }
+
+    void planBlock(const QPointF &to, bool rapid, bool burning, double power, double f, double t)
+    {
+        Block b;
+        b.from = planned;
+        b.to = to;
+        b.rapid = rapid;
+        b.burning = burning;
+        b.power = power;
+        b.feed = f;
+        const double length = std::hypot(to.x() - planned.x(), to.y() - planned.y());
+        if (length <= 0.0)
+            return; // an empty block is not planned
+        b.start = std::max(t, planner.empty() ? t : planner.back().end);
+        if (held && planner.empty())
+            b.start = heldAt; // frozen time: it starts when the hold ends
+        b.end = b.start + opt.motionMsPerLine / 1000.0 + length * opt.msPerMm / 1000.0;
+        planned = to;
+        planner.push_back(b);
+        feed = int(f);
+        setBusyUntil(std::max(busyUntil, b.end));
+        publish();
+    }
+
+    void moveTo(const QString &line, double t)
+    {
+        const Words w = readWords(line);
+        if (w.jog) {
+            const bool relative = w.g.contains(91);
+            QPointF to = planned;
+            if (w.hasX)
+                to.setX(relative ? to.x() + w.x : w.x);
+            if (w.hasY)
+                to.setY(relative ? to.y() + w.y : w.y);
+            planBlock(to, false, false, 0.0, w.hasF ? w.f : parser.f, t);
+            return;
+        }
+        bool setOrigin = false;
+        for (double g : w.g) {
+            if (g == 0 || g == 1 || g == 2 || g == 3)
+                parser.motion = int(g);
+            else if (g == 90)
+                parser.absolute = true;
+            else if (g == 91)
+                parser.absolute = false;
+            else if (g == 20)
+                parser.inches = true;
+            else if (g == 21)
+                parser.inches = false;
+            else if (g == 92)
+                setOrigin = true;
+        }
+        if (w.hasS)
+            parser.s = w.s;
+        if (w.hasF)
+            parser.f = parser.inches ? w.f * 25.4 : w.f;
+        if (const int spindle = spindleAfter(w))
+            parser.spindle = spindle;
+        if (!w.hasX && !w.hasY)
+            return;
+        const double unit = parser.inches ? 25.4 : 1.0;
+        if (setOrigin) { // the position becomes the given one
+            planned = QPointF(w.hasX ? w.x * unit : planned.x(), w.hasY ? w.y * unit : planned.y());
+            if (planner.empty()) {
+                x = planned.x();
+                y = planned.y();
+                publish();
+            }
+            return;
+        }
+        QPointF to = planned;
+        if (parser.absolute) {
+            if (w.hasX)
+                to.setX(w.x * unit);
+            if (w.hasY)
+                to.setY(w.y * unit);
+        } else {
+            to += QPointF(w.hasX ? w.x * unit : 0.0, w.hasY ? w.y * unit : 0.0);
+        }
+        const bool rapid = parser.motion == 0;
+        const bool laserMode = settingValue(32) != 0;
+        const bool burning = parser.spindle != 5 && parser.s > 0 && (!rapid || !laserMode);
+        planBlock(to, rapid, burning, parser.s, rapid ? settingValue(110) : parser.f, t);
+    }
+
+    bool setSetting(const QString &cmd)
+    {
+        static const QRegularExpression set(QStringLiteral("^\\$(\\d+)=(.*)$"));
+        const auto m = set.match(cmd);
+        if (!m.hasMatch())
+            return false;
+        std::lock_guard<std::mutex> lock(mutex);
+        opt.settings.insert(m.captured(1).toInt(), m.captured(2).trimmed());
+        return true;
     }
 
     void execute(const QString &line, double t)
@@ -187,7 +474,11 @@ struct GrblFake::Impl
             alarm = false;
         } else if (cmd == QLatin1String("$H")) {
             alarm = false;
+            planner.clear();
             x = y = 0.0;
+            planned = QPointF();
+            publish();
+        } else if (setSetting(cmd)) {
         } else if (alarm && !cmd.startsWith(QLatin1Char('$'))) {
             return say("error:9\r\n");
         } else if (cmd.startsWith(QLatin1String("AT"))) {
@@ -200,6 +491,7 @@ struct GrblFake::Impl
 
     void raiseNow(int code)
     {
+        killMotion(now());
         alarm = true;
         held = false;
         setBusyUntil(0.0);
@@ -236,12 +528,20 @@ struct GrblFake::Impl
     // Processes the complete lines whose processing time has come by `t`.
     void processDueLines(double t)
     {
-        while (rx.find('\n') != std::string::npos) {
+        runPlanner(t);
+        waitingForPlanner = false;
+        size_t end;
+        while ((end = rx.find('\n')) != std::string::npos) {
             if (headReadyAt < 0.0)
                 headReadyAt = t + opt.processingDelayMs / 1000.0;
             if (headReadyAt > t)
                 return;
+            if (!canTake(QString::fromLatin1(rx.data(), int(end)).trimmed())) {
+                waitingForPlanner = true;
+                return;
+            }
             processLine(t);
+            runPlanner(t);
         }
     }
 
@@ -265,6 +565,8 @@ struct GrblFake::Impl
             next = std::min(next, bootUntil);
         if (headReadyAt >= 0.0)
             next = std::min(next, headReadyAt);
+        if (!planner.empty() && !held)
+            next = std::min(next, planner.front().end);
         return next;
     }
 
@@ -309,7 +611,8 @@ struct GrblFake::Impl
 
     void loop()
     {
-        while (!stopping.load() && master >= 0) {
+        // A closed far end (unplugged) still runs what the planner holds.
+        while (!stopping.load() && (master >= 0 || !planner.empty())) {
             const double next = advance(now());
             flushOut();
             pollfd fds[2] = {{wake, POLLIN, 0},
@@ -332,7 +635,7 @@ struct GrblFake::Impl
 
 QMap<int, QString> GrblFake::defaultSettings()
 {
-    return {{0, "10"},        {1, "25"},         {10, "1"},         {22, "1"},
+    return {{0, "10"},        {1, "25"},         {10, "3"},         {22, "1"},
             {30, "1000"},     {31, "0"},         {32, "1"},         {100, "80.000"},
             {101, "80.000"},  {110, "6000.000"}, {111, "6000.000"}, {120, "500.000"},
             {130, "400.000"}, {131, "400.000"},  {132, "50.000"}};
@@ -372,7 +675,11 @@ bool GrblFake::start()
     // The fake keeps the near end open too, so the far end never reads a
     // hang-up while the link under test has its port closed.
     ::fcntl(d->master, F_SETFL, ::fcntl(d->master, F_GETFL) | O_NONBLOCK);
-    d->wake = ::eventfd(0, EFD_NONBLOCK);
+    // A process the test starts must not hold the far end open: unplugging
+    // would go unnoticed.
+    ::fcntl(d->master, F_SETFD, FD_CLOEXEC);
+    ::fcntl(d->slave, F_SETFD, FD_CLOEXEC);
+    d->wake = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
     m_portName = QString::fromLocal8Bit(name);
     d->thread = std::thread([this] { d->loop(); });
     return true;
@@ -462,4 +769,23 @@ bool GrblFake::moving() const
 bool GrblFake::inAlarm() const
 {
     return d->alarm.load();
+}
+
+QList<GrblFake::ExecutedMove> GrblFake::executedMoves() const
+{
+    return locked(d->mutex, d->executed);
+}
+int GrblFake::blocksQueued() const
+{
+    return d->queuedShared.load();
+}
+QPointF GrblFake::position() const
+{
+    return locked(d->mutex, d->positionShared);
+}
+int GrblFake::setting(int number) const
+{
+    Impl *p = d.get();
+    std::lock_guard<std::mutex> lock(p->mutex);
+    return p->opt.settings.value(number).toInt();
 }

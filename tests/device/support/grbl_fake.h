@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QMap>
+#include <QPointF>
 #include <QString>
 #include <QStringList>
 #include <atomic>
@@ -17,6 +18,18 @@
 // Of its 128-byte receive buffer 127 bytes are usable, as in the firmware's
 // ring buffer: a byte arriving when 127 wait is an overrun, recorded and
 // dropped. Bytes can be paced as on a wire and each line can take a delay.
+//
+// Motion goes through a planner buffer as in the firmware: a line with X or Y
+// words becomes a block (15 at most wait; a further motion line stays in the
+// receive buffer, unanswered, until one is done), a block takes
+// motionMsPerLine plus msPerMm per millimetre to run, and M3/M4/M5 changes,
+// G4, M2 and M30 wait for the buffer to empty before their "ok". The parser
+// keeps G0/G1/G2/G3, G90/G91, G20/G21, M3/M4/M5, S and F (arcs run as their
+// chord). Status reports carry MPos (or WPos when $10 bit 0 is clear) and, when
+// $10 bit 1 is set, "Bf:<free blocks>,<free bytes>". Every block run is kept
+// with its laser state (laser mode: burning on G1/G2/G3 with M3/M4 and S > 0);
+// a reset or an alarm cuts the running block where the head is and drops the
+// rest; a hold freezes it. A closed far end does not stop the planner.
 class GrblFake
 {
 public:
@@ -26,6 +39,8 @@ public:
         double bytesPerSecond = 0.0; // 0: as fast as the pty carries them
         int processingDelayMs = 0;   // per line, before its reply
         int motionMsPerLine = 0;     // the state reads Run this long per motion line
+        double msPerMm = 0.0;        // and this long per millimetre of the block
+        int plannerBlocks = 15;      // blocks the planner holds
         // The board restarts on the first byte (as boards that reset when the
         // port opens): bytes within bootMs are lost, then the banner is printed.
         bool resetOnFirstByte = false;
@@ -72,6 +87,19 @@ public:
     QByteArray received() const;  // those bytes in arrival order (when lines are recorded)
     bool inAlarm() const;         // raised and not yet unlocked
     bool moving() const;          // the state would read Run now
+
+    // A block the machine ran (or the part of it run before a reset or alarm).
+    struct ExecutedMove
+    {
+        QPointF from, to;
+        bool burning = false;
+        bool rapid = false;
+        double power = 0.0; // S
+    };
+    QList<ExecutedMove> executedMoves() const;
+    int blocksQueued() const;      // blocks in the planner now (the running one included)
+    QPointF position() const;      // where the head is now
+    int setting(int number) const; // current value of a numeric setting ($10 ...)
 
 private:
     struct Impl;

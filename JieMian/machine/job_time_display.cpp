@@ -1,0 +1,86 @@
+#include "job_time_display.h"
+
+#include "grbl_machine_settings.h"
+#include "jk_com.h"
+#include "machine_controller.h"
+#include "machine_panel.h"
+#include "program_state.h"
+#include "ui_machine_panel.h"
+
+#include <QThread>
+#include <memory>
+
+JobTimeDisplay::JobTimeDisplay(MachineController *machine, MachinePanel *panel, QObject *parent)
+    : QObject(parent), m_machine(machine), m_panel(panel)
+{
+    m_tick.setInterval(1000);
+    connect(&m_tick, &QTimer::timeout, this, [this] { refresh(); });
+    connect(machine, &MachineController::connectionChanged, this, [this] { watchLink(); });
+    watchLink();
+}
+
+void JobTimeDisplay::watchLink()
+{
+    Jk_com *com = m_machine ? m_machine->link() : nullptr;
+    if (!com || com == m_watched)
+        return;
+    m_watched = com;
+    connect(com, &Jk_com::diao_ke_jin_du, this, &JobTimeDisplay::onProgress);
+    connect(com, &Jk_com::jobFinished, this, &JobTimeDisplay::stopShowing);
+    connect(com, &Jk_com::deviceFault, this, &JobTimeDisplay::stopShowing);
+    connect(com, &Jk_com::linkLost, this, &JobTimeDisplay::stopShowing);
+    if (m_panel)
+        connect(m_panel->form().stop_Btn, &QPushButton::clicked, this, &JobTimeDisplay::stopShowing,
+                Qt::UniqueConnection);
+}
+
+void JobTimeDisplay::onProgress(int percent)
+{
+    if (percent != 0 || m_active || !m_machine)
+        return;
+    m_active = true;
+    m_planned = false;
+    m_clock.start();
+    m_tick.start();
+    // Planned on a thread of its own: a long job takes a while.
+    const quint64 run = ++m_run;
+    const QString path = lumitra::programState().jobFilePath;
+    const GrblMachineSettings settings =
+        GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
+    auto result = std::make_shared<PlannedJobTime>();
+    auto ok = std::make_shared<bool>(false);
+    QThread *thread =
+        QThread::create([=] { *ok = PlannedJobTime::planFile(path, settings, result.get()); });
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, this, [this, run, result, ok] {
+        if (run != m_run || !m_active || !*ok)
+            return;
+        m_timeline = *result;
+        m_planned = true;
+        refresh();
+    });
+    thread->start();
+}
+
+void JobTimeDisplay::refresh(double elapsedSeconds)
+{
+    if (!m_active || !m_planned || !m_panel)
+        return;
+    const double elapsed = elapsedSeconds >= 0.0 ? elapsedSeconds : m_clock.elapsed() / 1000.0;
+    const int answered = m_watched ? m_watched->lastAcknowledgedLine() : 0;
+    m_panel->form().remaining_Lab->setText(
+        tr("剩余 %1").arg(formatRunTime(m_timeline.remainingSeconds(answered, elapsed))));
+}
+
+QString JobTimeDisplay::text() const
+{
+    return m_panel ? m_panel->form().remaining_Lab->text() : QString();
+}
+
+void JobTimeDisplay::stopShowing()
+{
+    m_active = false;
+    m_tick.stop();
+    if (m_panel)
+        m_panel->form().remaining_Lab->clear();
+}

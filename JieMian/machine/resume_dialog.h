@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDialog>
+#include <QImage>
+#include <QPointF>
+#include <QRectF>
+#include <QVector>
+#include <memory>
+
+namespace Ui {
+class ResumeDialog;
+}
+
+// After an interrupted job: "resume from line N", with N editable and the job
+// preview marking where the head goes for line N (where it was just before that
+// line ran). When the controller lost its position (alarm, reset) the user is
+// told to home or set the origin first. Not modal, so the machine panel stays
+// usable for that. Accepting means: resume from line().
+class ResumeDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // `job`: the job's lines; `line`: the line suggested (first not executed).
+    ResumeDialog(const QStringList &job, int line, bool positionLost, QWidget *parent = nullptr);
+    ~ResumeDialog() override;
+
+    int line() const;
+    void setLine(int line);
+    // Where the head goes before line(), in job coordinates (mm).
+    QPointF resumePoint() const;
+    // The marker's centre in the preview picture (pixels).
+    QPointF markerInPreview() const;
+    // The preview as shown (picture with the marker).
+    QImage previewImage() const { return m_shown; }
+    Ui::ResumeDialog &form() { return *m_ui; }
+
+private:
+    void updateMarker();
+
+    std::unique_ptr<Ui::ResumeDialog> m_ui;
+    QVector<QPointF> m_before; // head position before each line
+    QImage m_preview;
+    QImage m_shown;
+    QRectF m_area; // job area shown (mm, Y up)
+    double m_scale = 1.0;
+};

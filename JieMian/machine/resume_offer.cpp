@@ -1,0 +1,114 @@
+#include "resume_offer.h"
+
+#include "jk_com.h"
+#include "machine_controller.h"
+#include "machine_panel.h"
+#include "message_box.h"
+#include "program_state.h"
+#include "resume_dialog.h"
+#include "ui_machine_panel.h"
+
+#include <QFileInfo>
+#include <QTimer>
+
+ResumeOffer::ResumeOffer(MachineController *machine, MachinePanel *panel, QWidget *dialogParent,
+                         QObject *parent)
+    : QObject(parent), m_machine(machine), m_dialogParent(dialogParent)
+{
+    // After the controller's own handler, which has reset the machine.
+    connect(panel->form().stop_Btn, &QPushButton::clicked, this, [this] { interrupted(true); });
+    connect(machine, &MachineController::connectionChanged, this, [this] { watchLink(); });
+    watchLink();
+}
+
+ResumeOffer::~ResumeOffer()
+{
+    if (m_dialog)
+        delete m_dialog;
+}
+
+void ResumeOffer::watchLink()
+{
+    Jk_com *com = m_machine ? m_machine->link() : nullptr;
+    if (!com || com == m_watched)
+        return;
+    m_watched = com;
+    connect(com, &Jk_com::diao_ke_jin_du, this, &ResumeOffer::onProgress);
+    connect(com, &Jk_com::jobFinished, this, &ResumeOffer::onFinished);
+    connect(com, &Jk_com::deviceFault, this, [this] { interrupted(true); });
+    connect(com, &Jk_com::linkLost, this, [this] { interrupted(false); });
+}
+
+void ResumeOffer::onProgress(int percent)
+{
+    if (percent != 0 || m_jobActive)
+        return;
+    // A run started: the file it streams.
+    m_jobActive = true;
+    const QString path = lumitra::programState().jobFilePath;
+    if (path != m_running) {
+        m_running = path;
+        m_original = path;
+        m_preambleLines = 0;
+        m_firstJobLine = 1;
+    }
+}
+
+void ResumeOffer::onFinished()
+{
+    m_jobActive = false;
+}
+
+int ResumeOffer::originalLine(int fileLine) const
+{
+    if (fileLine <= m_preambleLines)
+        return m_firstJobLine - 1;
+    return m_firstJobLine + fileLine - m_preambleLines - 1;
+}
+
+void ResumeOffer::interrupted(bool positionLost)
+{
+    if (!m_jobActive || !m_watched)
+        return;
+    m_jobActive = false;
+    const int next = originalLine(m_watched->lastExecutedLine()) + 1;
+    QStringList job;
+    QString error;
+    if (!lumitra::gcode::readJobLines(m_original, &job, &error) || next > job.size())
+        return;
+    if (m_dialog)
+        delete m_dialog;
+    m_dialog = new ResumeDialog(job, next, positionLost, m_dialogParent);
+    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_dialog, &QDialog::accepted, this, [this] {
+        const int line = m_dialog->line();
+        QTimer::singleShot(0, this, [this, line] { resumeFrom(line); });
+    });
+    m_dialog->show();
+}
+
+bool ResumeOffer::resumeFrom(int line)
+{
+    if (!m_machine)
+        return false;
+    QStringList job;
+    QString error;
+    if (!lumitra::gcode::readJobLines(m_original, &job, &error) || line < 1 || line > job.size()
+        || !m_dir.isValid()) {
+        lumitra::show_notice(m_dialogParent, tr("无法继续作业。"));
+        return false;
+    }
+    const lumitra::gcode::ResumeJob r = lumitra::gcode::buildResumeJob(job, line);
+    const QString path =
+        m_dir.filePath(QStringLiteral("resume-%1").arg(QFileInfo(m_original).fileName()));
+    if (!lumitra::gcode::writeJobLines(path, r.lines, &error)) {
+        lumitra::show_notice(m_dialogParent, tr("无法继续作业。"));
+        return false;
+    }
+    m_running = path; // its start keeps this mapping
+    m_preambleLines = r.preambleLines;
+    m_firstJobLine = r.fromLine;
+    m_machine->runJob(path);
+    emit resumed(m_original, line);
+    return true;
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "resume_plan.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <functional>
+
+class Jk_com;
+class MachineController;
+class MachinePanel;
+class ResumeDialog;
+class QWidget;
+
+// Offers to resume a serial job that was interrupted: a lost port, an alarm or
+// error from the controller, or the user's stop. The link tells how far the
+// machine has surely executed (Jk_com::lastExecutedLine); the dialog suggests
+// the next line, lets the user change it and shows where it is; accepting
+// writes the resumed job (the state at that line restored with the laser off,
+// then the rest) and runs it through the machine controller. A job that was
+// itself a resumed one is counted in the lines of the original job. GUI thread.
+class ResumeOffer : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The panel's stop button counts as an interruption.
+    ResumeOffer(MachineController *machine, MachinePanel *panel, QWidget *dialogParent,
+                QObject *parent = nullptr);
+    ~ResumeOffer() override;
+
+    // Follows the machine controller's serial link (call again after a
+    // connect: the link exists from the first connect on). Idempotent.
+    void watchLink();
+
+    // The dialog on screen, or nullptr.
+    ResumeDialog *dialog() const { return m_dialog; }
+    // Where a resumed job runs from (the original job's path and line).
+    QString originalJob() const { return m_original; }
+
+public slots:
+    // The job stopped before its end; `positionLost` when the controller was
+    // reset or raised an alarm (it must be homed, or its origin set again).
+    void interrupted(bool positionLost);
+    // Runs the job `m_original` from `line` on.
+    bool resumeFrom(int line);
+
+signals:
+    // A resumed job was handed to the machine controller.
+    void resumed(const QString &originalJob, int fromLine);
+
+private:
+    void onProgress(int percent);
+    void onFinished();
+    // The running job's line `fileLine` in the original job.
+    int originalLine(int fileLine) const;
+
+    QPointer<MachineController> m_machine;
+    QPointer<QWidget> m_dialogParent;
+    QPointer<Jk_com> m_watched;
+    QPointer<ResumeDialog> m_dialog;
+    bool m_jobActive = false;
+    QString m_running;  // file the link runs
+    QString m_original; // the job it stands for
+    int m_preambleLines = 0;
+    int m_firstJobLine = 1;
+    QTemporaryDir m_dir; // resumed jobs
+};

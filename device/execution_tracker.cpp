@@ -1,0 +1,209 @@
+#include "execution_tracker.h"
+
+#include <QRegularExpression>
+#include <cmath>
+
+void ExecutionTracker::beginJob()
+{
+    m_absolute = true;
+    m_inches = false;
+    m_inFlight.clear();
+    m_unsettled.clear();
+    m_lastSent = 0;
+    m_lastAcknowledged = 0;
+    m_lastExecuted = 0;
+    m_queuedBlocks = -1;
+    m_frozen = false;
+}
+
+void ExecutionTracker::setStepSizes(double xMm, double yMm)
+{
+    if (xMm > 0.0)
+        m_stepX = xMm;
+    if (yMm > 0.0)
+        m_stepY = yMm;
+}
+
+namespace {
+
+struct LineWords
+{
+    QList<double> g;
+    bool hasX = false, hasY = false;
+    double x = 0.0, y = 0.0;
+    bool system = false; // a "$" line
+};
+
+LineWords readWords(const QString &raw)
+{
+    LineWords w;
+    QString line = raw.toUpper();
+    const int semicolon = line.indexOf(QLatin1Char(';'));
+    if (semicolon >= 0)
+        line.truncate(semicolon);
+    static const QRegularExpression parens(QStringLiteral("\\([^)]*\\)"));
+    line.remove(parens);
+    line = line.trimmed();
+    if (line.startsWith(QLatin1Char('$'))) {
+        w.system = true;
+        return w;
+    }
+    static const QRegularExpression word(QStringLiteral("([A-Z])\\s*([-+]?\\d*\\.?\\d+)"));
+    for (auto it = word.globalMatch(line); it.hasNext();) {
+        const auto m = it.next();
+        const double v = m.captured(2).toDouble();
+        switch (m.captured(1).at(0).unicode()) {
+        case 'G':
+            w.g.append(v);
+            break;
+        case 'X':
+            w.hasX = true;
+            w.x = v;
+            break;
+        case 'Y':
+            w.hasY = true;
+            w.y = v;
+            break;
+        default:
+            break;
+        }
+    }
+    return w;
+}
+
+} // namespace
+
+int ExecutionTracker::sureBlocks(const QString &line)
+{
+    const LineWords w = readWords(line);
+    if (w.system) {
+        // Homing or a jog moves the head somewhere this model does not follow.
+        m_knownX = m_knownY = false;
+        return 0;
+    }
+    bool setsPosition = false; // G92, G10, G28, G30, G53: not followed
+    for (double g : w.g) {
+        if (g == 90)
+            m_absolute = true;
+        else if (g == 91)
+            m_absolute = false;
+        else if (g == 20)
+            m_inches = true;
+        else if (g == 21)
+            m_inches = false;
+        else if (g == 92 || g == 10 || g == 28 || g == 30 || g == 53 || g == 92.1)
+            setsPosition = true;
+    }
+    if (!w.hasX && !w.hasY) {
+        if (setsPosition)
+            m_knownX = m_knownY = false;
+        return 0;
+    }
+    if (setsPosition) {
+        m_knownX = m_knownY = false;
+        return 0;
+    }
+    const double unit = m_inches ? 25.4 : 1.0;
+    double dx = 0.0, dy = 0.0;
+    bool sureX = false, sureY = false;
+    if (w.hasX) {
+        if (m_absolute) {
+            dx = w.x * unit - m_x;
+            sureX = m_knownX;
+            m_x = w.x * unit;
+            m_knownX = true;
+        } else {
+            dx = w.x * unit;
+            sureX = true;
+            m_x += dx;
+        }
+    }
+    if (w.hasY) {
+        if (m_absolute) {
+            dy = w.y * unit - m_y;
+            sureY = m_knownY;
+            m_y = w.y * unit;
+            m_knownY = true;
+        } else {
+            dy = w.y * unit;
+            sureY = true;
+            m_y += dy;
+        }
+    }
+    // One whole step on an axis always moves the rounded step position.
+    const bool moves =
+        (sureX && std::fabs(dx) >= m_stepX - 1e-9) || (sureY && std::fabs(dy) >= m_stepY - 1e-9);
+    return moves ? 1 : 0;
+}
+
+void ExecutionTracker::lineSent(int number, const QString &line)
+{
+    if (m_frozen || number <= 0)
+        return;
+    m_inFlight.push_back({number, sureBlocks(line)});
+    m_lastSent = number;
+}
+
+void ExecutionTracker::lineAcknowledged(int number)
+{
+    if (m_frozen || number <= 0)
+        return;
+    while (!m_inFlight.empty() && m_inFlight.front().number <= number) {
+        const Sent s = m_inFlight.front();
+        m_inFlight.pop_front();
+        if (s.number == number) {
+            m_unsettled.push_back({s.number, s.blocks});
+            m_lastAcknowledged = number;
+            break;
+        }
+    }
+}
+
+void ExecutionTracker::statusReport(const QString &report)
+{
+    if (m_frozen || !report.startsWith(QLatin1Char('<')))
+        return;
+    const QString state = report.mid(1).section(QRegularExpression(QStringLiteral("[|:>]")), 0, 0);
+    // Idle does not mean an empty planner: the controller starts the cycle
+    // only when its buffer fills or the serial input runs dry.
+    if (state != QLatin1String("Run") && state != QLatin1String("Hold")
+        && state != QLatin1String("Idle"))
+        return; // Alarm, Door, Sleep, ...: nothing to learn about the job
+    const int free = lumitra::grbl::blocksFree(report);
+    settle(free < 0 ? kPlannerBlocks : qMax(0, kPlannerBlocks - free));
+}
+
+void ExecutionTracker::settle(int queuedBlocks)
+{
+    m_queuedBlocks = queuedBlocks;
+    // Smallest tail of the answered lines holding `queuedBlocks` sure blocks.
+    int sum = 0;
+    int first = int(m_unsettled.size());
+    while (first > 0 && sum < queuedBlocks) {
+        --first;
+        sum += m_unsettled[size_t(first)].blocks;
+    }
+    if (queuedBlocks == 0 || m_unsettled.empty()) {
+        m_lastExecuted = qMax(m_lastExecuted, m_lastAcknowledged);
+        m_unsettled.clear();
+        return;
+    }
+    m_lastExecuted = qMax(m_lastExecuted, m_unsettled[size_t(first)].number - 1);
+    m_unsettled.erase(m_unsettled.begin(), m_unsettled.begin() + first);
+}
+
+namespace lumitra::grbl {
+
+int blocksFree(const QString &report)
+{
+    static const QRegularExpression field(QStringLiteral("Bf:(\\d+)"));
+    const auto m = field.match(report);
+    return m.hasMatch() ? m.captured(1).toInt() : -1;
+}
+
+int statusMaskWithBuffer(const QString &report)
+{
+    return (report.contains(QLatin1String("WPos:")) ? 0 : 1) | 2;
+}
+
+} // namespace lumitra::grbl

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QString>
+#include <deque>
+
+// Which line of a streamed job the machine has executed, not only planned.
+//
+// GRBL answers "ok" once a line is parsed and its motion is in the planner
+// buffer (15 usable blocks in GRBL 1.1); the motion runs later. A status report
+// with the buffer field "Bf:<free blocks>,<free bytes>" says how many blocks
+// are still queued: q = 15 - free, the running block included. The lines that
+// produced the last q blocks among the acknowledged lines are not done yet;
+// every acknowledged line before the first of them is.
+//
+// Lines that produce no block: G90/G91, G20/G21, F, S (laser mode), comments,
+// empty lines, G92, a move to where the head already is, a move shorter than
+// one motor step. They only change the parser state, which a resumed job
+// rebuilds from the job text, so they count as executed as soon as the block
+// before them has run: the first line not yet executed is always a line with a
+// block, and the lines between the last executed block and it are reported as
+// executed. M3/M4/M5 changes, G4, M2 and M30 make the controller wait for an
+// empty buffer before its "ok"; they need no special case.
+//
+// Everything errs on the side of "not yet executed", so that a resume from
+// lastExecutedLine() + 1 leaves no gap (at worst it burns the last queued lines
+// again): a line is only counted as a block when it surely makes one (a move of
+// at least one step on an axis from a known position); an arc counts as one
+// block though it makes several; blocks of a line still being planned (not yet
+// answered) are charged to the answered lines; without a buffer field every
+// report counts as a full buffer (Idle too: the controller may hold blocks it
+// has not started yet).
+//
+// Plain class, not thread-safe: the stream state calls it under its mutex, in
+// the order the lines go out and the answers come in.
+class ExecutionTracker
+{
+public:
+    static constexpr int kPlannerBlocks = 15;
+
+    // A new job: numbering starts again, nothing sent.
+    void beginJob();
+    // The controller was reset, raised an alarm or the port is gone: from now on
+    // nothing changes the figures until the next beginJob().
+    void freeze() { m_frozen = true; }
+    bool frozen() const { return m_frozen; }
+
+    // Distance, in mm, of one motor step on X and Y ($100, $101 are steps/mm).
+    void setStepSizes(double xMm, double yMm);
+
+    // Job line `number` (1-based, in sending order) went out.
+    void lineSent(int number, const QString &line);
+    // The oldest line in flight was answered "ok"; `number` is its job line, or
+    // 0 for a line outside the job.
+    void lineAcknowledged(int number);
+    // A status report arrived (after every answer that came before it).
+    void statusReport(const QString &report);
+
+    // Highest job line the controller has answered "ok" (0 before the first).
+    int lastAcknowledgedLine() const { return m_lastAcknowledged; }
+    // Highest job line N such that every job line up to N has run.
+    int lastExecutedLine() const { return m_lastExecuted; }
+    // Job lines sent so far.
+    int lastSentLine() const { return m_lastSent; }
+    // Blocks in the planner at the last report (-1 before the first one).
+    int blocksQueued() const { return m_queuedBlocks; }
+
+    // How many planner blocks a line surely makes (0 or 1), following the
+    // parser state (distance mode, units, position) of the lines before it.
+    // Public for the tests.
+    int sureBlocks(const QString &line);
+
+private:
+    struct Acked
+    {
+        int number = 0;
+        int blocks = 0;
+    };
+    struct Sent
+    {
+        int number = 0;
+        int blocks = 0;
+    };
+
+    void settle(int queuedBlocks);
+
+    // Parser model.
+    bool m_absolute = true;
+    bool m_inches = false;
+    bool m_knownX = true, m_knownY = true;
+    double m_x = 0.0, m_y = 0.0;
+    double m_stepX = 0.1, m_stepY = 0.1;
+
+    std::deque<Sent> m_inFlight;   // sent, not answered
+    std::deque<Acked> m_unsettled; // answered, maybe still in the planner
+    int m_lastSent = 0;
+    int m_lastAcknowledged = 0;
+    int m_lastExecuted = 0;
+    int m_queuedBlocks = -1;
+    bool m_frozen = false;
+};
+
+namespace lumitra::grbl {
+// Free planner blocks in a status report's "Bf:" field; -1 without one.
+int blocksFree(const QString &report);
+// The $10 value that keeps the report's position kind (MPos or WPos) and adds
+// the buffer field.
+int statusMaskWithBuffer(const QString &report);
+} // namespace lumitra::grbl
