@@ -37,6 +37,7 @@ QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths)
     QList<Jk_tu_yuan *> items;
     if (paths.isEmpty())
         return items;
+    items.reserve(paths.size());
     const QRectF box = unionBox(paths);
     const QPointF shift = -box.topLeft();
     const QPointF place = centredTopLeft(box);

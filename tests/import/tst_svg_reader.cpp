@@ -293,6 +293,12 @@ void TestSvgReader::pathData_data()
                                     << "" << false;
     QTest::newRow("numbers before any command") << "10 10 L5 5"
                                                 << "" << false;
+    QTest::newRow("line before any move") << "L10 10 L20 20"
+                                          << "" << false;
+    QTest::newRow("relative curve before any move") << "c1 1 2 2 3 3 M0 0 L1 1"
+                                                    << "" << false;
+    QTest::newRow("close before any move") << "Z M0 0 L1 1"
+                                           << "" << false;
     QTest::newRow("numbers after close") << "M0 0 L1 0 Z 5 5"
                                          << "M0,0 L1,0 L0,0" << false;
     QTest::newRow("bad arc flag") << "M0 0 A5 5 0 2 1 10 0"
