@@ -6,6 +6,7 @@
 #include "program_state.h"
 #include "svg_reader.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 
 namespace lumitra {
@@ -50,6 +51,45 @@ QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths)
     return items;
 }
 
+QList<Jk_tu_yuan *> makeCentredSvgItems(const SvgImportResult &result)
+{
+    if (result.images.isEmpty())
+        return makeCentredVectorItems(result.paths);
+    QRectF box = unionBox(result.paths);
+    for (const SvgImage &image : result.images) {
+        const QRectF r = image.pixelToMm.mapRect(QRectF(QPointF(0, 0), image.image.size()));
+        box = box.isNull() ? r : box.united(r);
+    }
+    QList<Jk_tu_yuan *> items = makeCentredVectorItems(result.paths);
+    const QPointF shift = -box.topLeft();
+    const QPointF place = centredTopLeft(box);
+    if (!items.isEmpty()) {
+        // The vector items were centred on their own box: move them into the whole one.
+        const QPointF offset = place + unionBox(result.paths).topLeft() - box.topLeft();
+        for (Jk_tu_yuan *item : items)
+            item->setPos(offset);
+    }
+    for (const SvgImage &image : result.images) {
+        auto *item = new Jk_tu_yuan(Jk_tu_yuan::greyFromFile(image.image));
+        // The item's outline is the image at 0.254 mm per pixel; its transform takes that to
+        // the image's place in the drawing.
+        const double k = Jk_tu_yuan::kPixelMm;
+        item->setTransform(QTransform::fromScale(1 / k, 1 / k) * image.pixelToMm
+                           * QTransform::fromTranslate(shift.x(), shift.y()));
+        item->setPos(place);
+        item->setSelected(true);
+        items.append(item);
+    }
+    return items;
+}
+
+QString svgTextLeftOutNotice(int count)
+{
+    return QCoreApplication::translate("SvgImport",
+                                       "%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。")
+        .arg(count);
+}
+
 QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
 {
     const SvgImportResult result = readSvgFile(path);
@@ -59,7 +99,9 @@ QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
             *message = result.error;
         return {};
     }
-    return makeCentredVectorItems(result.paths);
+    if (result.textCount > 0 && message)
+        *message = svgTextLeftOutNotice(result.textCount);
+    return makeCentredSvgItems(result);
 }
 
 Jk_tu_yuan *makeDxfItem(const QPainterPath &path)

@@ -17,9 +17,20 @@ namespace lumitra {
 // are selected.
 QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths);
 
+struct SvgImportResult;
+
+// The items of an SVG drawing: one vector item per path and one bitmap item per image, at
+// its place and size (through the item transform); the drawing as a whole is centred on
+// the work area, every item keeping its place within it. The items are selected.
+QList<Jk_tu_yuan *> makeCentredSvgItems(const SvgImportResult &result);
+
+// What the user is told when `count` texts of a drawing were left out.
+QString svgTextLeftOutNotice(int count);
+
 // Importer for ".svg" files (signature of the open dispatch). A file that cannot be read
 // or parsed gives no items and no message; a file beyond the reader's limits (nesting,
-// shape count, size) gives a message.
+// shape count, size) gives a message. When texts were left out, *message tells how many
+// (with or without items: with items it is a notice for after the import).
 QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message);
 
 // One vector item for a DXF outline (millimetres, y up) mirrored by the item transform

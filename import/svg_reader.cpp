@@ -234,7 +234,7 @@ private:
             return parent.fontSize / 1.2;
         // Percentages and em of a font size refer to the parent's font size.
         SvgLengthContext c = parent;
-        c.viewportWidth = c.viewportHeight = parent.fontSize * 100;
+        c.viewportWidth = c.viewportHeight = parent.fontSize;
         double size;
         if (svgLengthToUser(text, SvgAxis::X, c, &size) && size > 0 && std::isfinite(size))
             return size;

@@ -186,6 +186,9 @@ ProjectCommands::OpenOutcome ProjectCommands::open_file(const QString &path)
         return OpenOutcome::Failed;
     }
     m_pages->currentScene()->addItemsUndoable(items);
+    // Something was left out of what came in: the importer says what.
+    if (!message.isEmpty())
+        lumitra::show_notice(m_dialogParent, message);
     return opened(path, OpenOutcome::Opened);
 }
 

@@ -84,6 +84,7 @@ private slots:
     void selfInsertingBlockEnds();
     void svgFileBecomesCentredItems_data();
     void svgFileBecomesCentredItems();
+    void svgImagesAndTexts();
     void dxfItemIsMirrored_data();
     void dxfItemIsMirrored();
     void dxfFileGoesThroughTheUndoableAdd();
@@ -311,6 +312,43 @@ void TestImportItems::svgFileBecomesCentredItems()
         QVERIFY(!items[i]->is_bitmap);
         QVERIFY(items[i]->isSelected());
     }
+    qDeleteAll(items);
+}
+
+void TestImportItems::svgImagesAndTexts()
+{
+    // A 10 x 5 mm rectangle at (0, 0), a 20 x 10 pixel image stretched over (30, 0)-(50, 20)
+    // (preserveAspectRatio none), and two texts; the union is 50 x 20.
+    programState().width = 400;
+    programState().height = 400;
+    QImage image(20, 10, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    QVERIFY(image.save(dir.filePath(QStringLiteral("pic.png"))));
+    const QString svg = dir.filePath(QStringLiteral("drawing.svg"));
+    QFile file(svg);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<svg xmlns='http://www.w3.org/2000/svg' width='100mm' height='100mm' "
+               "viewBox='0 0 100 100'><rect width='10' height='5'/>"
+               "<image x='30' width='20' height='20' preserveAspectRatio='none' "
+               "href='pic.png'/><text>a</text><text>b</text></svg>");
+    file.close();
+    QString message;
+    const QList<Jk_tu_yuan *> items = importSvgItems(svg, &message);
+    QCOMPARE(items.size(), 2);
+    QVERIFY(message.contains(QLatin1String("2")));
+    QCOMPARE(message, svgTextLeftOutNotice(2));
+    // The union's top-left goes to (200 - 25, 200 - 10 - 400).
+    const QPointF at(175, -210);
+    QVERIFY(!items[0]->is_bitmap);
+    QVERIFY2(near(sceneBox(items[0]), QRectF(at, QSizeF(10, 5)), 1e-4),
+             describe(sceneBox(items[0])));
+    QVERIFY(items[1]->is_bitmap);
+    QCOMPARE(items[1]->source_image.size(), QSize(20, 10));
+    QVERIFY2(near(sceneBox(items[1]), QRectF(at + QPointF(30, 0), QSizeF(20, 20)), 1e-4),
+             describe(sceneBox(items[1])));
+    QVERIFY(items[1]->isSelected());
     qDeleteAll(items);
 }
 
