@@ -445,6 +445,17 @@ private slots:
         });
         QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("a.svg"))), Open::Failed);
         QCOMPARE(m_messages, QStringList{QStringLiteral("too big")});
+        // A notice that comes with items is shown once they are in the design.
+        m_messages.clear();
+        dispatch.registerImporter(QStringLiteral("svg"), [](const QString &, QString *message) {
+            *message = QStringLiteral("2 texts left out");
+            QPainterPath p;
+            p.addRect(0, 0, 5, 5);
+            return QList<Jk_tu_yuan *>{new Jk_tu_yuan(p, 0)};
+        });
+        QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("a.svg"))), Open::Opened);
+        QCOMPARE(m_messages, QStringList{QStringLiteral("2 texts left out")});
+        QCOMPARE(pages.currentScene()->designItemCount(), 1);
 
         dispatch.unregisterImporter(QStringLiteral("svg"));
         QCOMPARE(dispatch.kindOf(QStringLiteral("drawing.svg")), OpenKind::Unsupported);
