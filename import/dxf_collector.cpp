@@ -157,8 +157,8 @@ public:
                         * QTransform::fromTranslate(col * ins.columnSpacing, row * ins.rowSpacing);
                     place = place * QTransform().rotate(ins.angleDegrees)
                             * QTransform::fromTranslate(ins.at.x(), ins.at.y());
-                    if (ins.mirrored)
-                        place = place * kMirrorX;
+                    if (!ins.ocs.isIdentity())
+                        place = place * ins.ocs;
                     if (++m_expansions > kMaxExpansions || !expand(*it, place * t, depth + 1, out))
                         return false;
                 }
@@ -203,6 +203,38 @@ bool DxfCollector::extrusionDown()
     return e && e->getDirection() && e->getDirection()[2] < 0;
 }
 
+QTransform DxfCollector::ocsToWorld(double elevation)
+{
+    const DL_Extrusion *e = getExtrusion();
+    if (!e || !e->getDirection())
+        return QTransform();
+    const double *d = e->getDirection();
+    const double len = std::sqrt(d[0] * d[0] + d[1] * d[1] + d[2] * d[2]);
+    if (!finite(d[0], d[1], d[2]) || !(len > 1e-12))
+        return QTransform();
+    const double n[3] = {d[0] / len, d[1] / len, d[2] / len};
+    if (n[0] == 0 && n[1] == 0)
+        return n[2] > 0 ? QTransform() : kMirrorX;
+    // Arbitrary axis algorithm: Ax = Wy x N near the poles, else Wz x N; Ay = N x Ax.
+    double ax[3];
+    if (std::abs(n[0]) < 1.0 / 64 && std::abs(n[1]) < 1.0 / 64) {
+        ax[0] = n[2];
+        ax[1] = 0;
+        ax[2] = -n[0];
+    } else {
+        ax[0] = -n[1];
+        ax[1] = n[0];
+        ax[2] = 0;
+    }
+    const double al = std::sqrt(ax[0] * ax[0] + ax[1] * ax[1] + ax[2] * ax[2]);
+    for (double &v : ax)
+        v /= al;
+    const double ay[3] = {n[1] * ax[2] - n[2] * ax[1], n[2] * ax[0] - n[0] * ax[2],
+                          n[0] * ax[1] - n[1] * ax[0]};
+    const double z = finite(elevation) ? elevation : 0.0;
+    return QTransform(ax[0], ax[1], ay[0], ay[1], z * n[0], z * n[1]);
+}
+
 void DxfCollector::flushPending()
 {
     if (m_hasPolyline) {
@@ -219,7 +251,7 @@ void DxfCollector::flushPending()
                 local.closeSubpath();
             }
             if (local.elementCount() > 1)
-                to->path.addPath(m_polyline.mirrored ? kMirrorX.map(local) : local);
+                to->path.addPath(m_polyline.ocs.isIdentity() ? local : m_polyline.ocs.map(local));
         }
         m_polyline = PendingPolyline();
     }
@@ -265,7 +297,8 @@ void DxfCollector::addArc(const DL_ArcData &d)
     QPainterPath local;
     local.moveTo(ellipsePoint(c, d.radius, d.radius, 0, a1));
     appendEllipticArc(local, c, d.radius, d.radius, 0, a1, sweep);
-    to->path.addPath(extrusionDown() ? kMirrorX.map(local) : local);
+    const QTransform ocs = ocsToWorld(d.cz);
+    to->path.addPath(ocs.isIdentity() ? local : ocs.map(local));
 }
 
 void DxfCollector::addCircle(const DL_CircleData &d)
@@ -274,6 +307,16 @@ void DxfCollector::addCircle(const DL_CircleData &d)
     DxfBlock *to = target();
     if (!to || !finite(d.cx, d.cy, d.radius) || !(d.radius > 0))
         return;
+    const QTransform ocs = ocsToWorld(d.cz);
+    if (!ocs.isIdentity() && ocs != kMirrorX) {
+        // A tilted circle is seen as an ellipse.
+        QPainterPath local;
+        local.moveTo(d.cx + d.radius, d.cy);
+        appendEllipticArc(local, QPointF(d.cx, d.cy), d.radius, d.radius, 0, 0, 2 * kPi);
+        local.closeSubpath();
+        to->path.addPath(ocs.map(local));
+        return;
+    }
     const QPointF c(extrusionDown() ? -d.cx : d.cx, d.cy);
     to->path.moveTo(c.x() + d.radius, c.y());
     appendEllipticArc(to->path, c, d.radius, d.radius, 0, 0, 2 * kPi);
@@ -294,6 +337,24 @@ void DxfCollector::addEllipse(const DL_EllipseData &d)
     const QPointF c(d.cx, d.cy);
     double start = d.angle1;
     double sweep = ccwSweep(d.angle1, d.angle2, 2 * kPi);
+    const DL_Extrusion *e = getExtrusion();
+    const double *n = e ? e->getDirection() : nullptr;
+    if (n && finite(n[0], n[1], n[2], d.mz) && (n[0] != 0 || n[1] != 0)) {
+        // Centre and major axis are world points; the minor axis is ratio * (N x major)
+        // normalised to N. Seen from above, the unit circle maps onto the ellipse.
+        const double len = std::sqrt(n[0] * n[0] + n[1] * n[1] + n[2] * n[2]);
+        const double nx = n[0] / len, ny = n[1] / len, nz = n[2] / len;
+        const double minorX = d.ratio * (ny * d.mz - nz * d.my);
+        const double minorY = d.ratio * (nz * d.mx - nx * d.mz);
+        const QTransform onto(d.mx, d.my, minorX, minorY, d.cx, d.cy);
+        QPainterPath local;
+        local.moveTo(ellipsePoint(QPointF(), 1, 1, 0, start));
+        appendEllipticArc(local, QPointF(), 1, 1, 0, start, sweep);
+        if (std::abs(sweep - 2 * kPi) < 1e-9)
+            local.closeSubpath();
+        to->path.addPath(onto.map(local));
+        return;
+    }
     if (extrusionDown()) {
         // The minor axis points the other way: the same arc runs at negated parameters.
         start = -start;
@@ -314,7 +375,8 @@ void DxfCollector::addPolyline(const DL_PolylineData &d)
     m_hasPolyline = true;
     m_polylineTarget = target();
     m_polyline.closed = d.flags & 1;
-    m_polyline.mirrored = !(d.flags & 8) && extrusionDown();
+    // 3D polylines have world vertices; the others lie in their object coordinate system.
+    m_polyline.ocs = (d.flags & 8) ? QTransform() : ocsToWorld(d.elevation);
 }
 
 void DxfCollector::addVertex(const DL_VertexData &d)
@@ -370,7 +432,7 @@ void DxfCollector::addInsert(const DL_InsertData &d)
     ins.rows = std::max(1, std::min(d.rows, kMaxArray));
     ins.columnSpacing = d.colSp;
     ins.rowSpacing = d.rowSp;
-    ins.mirrored = extrusionDown();
+    ins.ocs = ocsToWorld(d.ipz);
     to->inserts.append(ins);
 }
 

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QPainterPath>
 #include <QString>
+#include <QTransform>
 #include <QVector>
 #include <dxflib/dl_creationadapter.h>
 
@@ -19,7 +20,7 @@ struct DxfInsert
     double scaleX = 1, scaleY = 1, angleDegrees = 0;
     int columns = 1, rows = 1;
     double columnSpacing = 0, rowSpacing = 0;
-    bool mirrored = false; // extrusion pointing down: the block lies mirrored in x
+    QTransform ocs; // object coordinate system to world x, y (identity for +Z)
 };
 
 struct DxfSpline
@@ -76,7 +77,7 @@ private:
         QVector<QPointF> points;
         QVector<double> bulges;
         bool closed = false;
-        bool mirrored = false;
+        QTransform ocs;
     };
 
     QHash<QString, DxfBlock> m_blocks;
@@ -97,6 +98,9 @@ private:
     // The container of the entity being reported, or nullptr for paper space.
     DxfBlock *target();
     bool extrusionDown();
+    // The entity's object coordinate system (arbitrary axis algorithm) seen from above:
+    // OCS x, y at `elevation` to world x, y. The identity for an extrusion of +Z.
+    QTransform ocsToWorld(double elevation);
 
     friend class DxfExpander;
 };

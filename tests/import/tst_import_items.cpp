@@ -147,6 +147,27 @@ void TestImportItems::entities_data()
     row("mirrored insert", sq, insert("SQ", 5, 0, -1, 1), {4, 0, 1, 1}, 1);
     row("insert with extrusion down", sq, insert("SQ", 5, 0, 1, 1, 0, 1, 1, 0, 0, true),
         {-6, 0, 1, 1}, 1);
+    // Object coordinate systems tilted away from Z, by the arbitrary axis algorithm: for
+    // N = (0, 0.6, 0.8) the OCS axes are Ax = (-1, 0, 0), Ay = (0, -0.8, 0.6), so seen from
+    // above x -> -x, y -> -0.8 y + 0.6 z; for N = (0.6, 0, 0.8) they are Ax = (0, 1, 0),
+    // Ay = (-0.8, 0, 0.6): x -> -0.8 y + 0.6 z, y -> x.
+    row("circle in a tilted OCS is an ellipse", none,
+        ent("CIRCLE") + xy(10, 10, 20) + extrusion(0, 0.6, 0.8) + g(40, 5.0), {-15, -20, 10, 8}, 1);
+    row("arc in a tilted OCS", none,
+        ent("ARC") + xy(10, 0, 0) + g(40, 10.0) + extrusion(0.6, 0, 0.8) + g(50, 0.0) + g(51, 90.0),
+        {-8, 0, 8, 10}, 1);
+    // The half circle below (0,0)-(10,0) at elevation 5: x in [-10, 0], y in [3, 7].
+    row("lwpolyline with a bulge and an elevation in a tilted OCS", none,
+        ent("LWPOLYLINE") + g(90, 2) + g(70, 0) + g(38, 5.0) + g(10, 0.0) + g(20, 0.0) + g(42, 1.0)
+            + g(10, 10.0) + g(20, 0.0) + extrusion(0, 0.6, 0.8),
+        {-10, 3, 10, 4}, 1);
+    // World centre and major axis (20, 0, 0); minor = 0.5 * N x major = (0, 8, -6).
+    row("ellipse in a tilted plane", none,
+        ent("ELLIPSE") + xy(10, 0, 0) + xy(11, 20, 0) + extrusion(0, 0.6, 0.8) + g(40, 0.5)
+            + g(41, 0.0) + g(42, 2 * M_PI),
+        {-20, -8, 40, 16}, 1);
+    row("insert in a tilted OCS", sq,
+        ent("INSERT") + g(2, "SQ") + xy(10, 5, 0) + extrusion(0, 0.6, 0.8), {-6, -0.8, 1, 0.8}, 1);
     row("block names ignore case", block("Part", 0, 0, square), insert("PART", 7, 7), {7, 7, 1, 1},
         1);
     row("missing block skipped", none, insert("NONE", 7, 7) + line(0, 0, 2, 2), {0, 0, 2, 2}, 1);
@@ -409,6 +430,22 @@ void TestImportItems::dxfFailuresCarryAMessage()
         QVERIFY(importDxfItems(path, &message).isEmpty());
         QVERIFY(!message.isEmpty());
     }
+    // A binary DXF is refused as binary, not as damaged; a file with zero bytes in its text
+    // is damaged.
+    QByteArray binary("AutoCAD Binary DXF\r\n\x1a");
+    binary.append('\0');
+    binary.append("\x00\x00SECTION\x00\x02\x00HEADER\x00", 20);
+    const QString binaryPath = m_dir.filePath(QStringLiteral("binary.dxf"));
+    QVERIFY(write(binaryPath, binary));
+    QString message;
+    QVERIFY(importDxfItems(binaryPath, &message).isEmpty());
+    QCOMPARE(message, QCoreApplication::translate("DxfImport", "不支持二进制 DXF 文件"));
+    QByteArray zeros = file(line(0, 0, 1, 1)).toUtf8();
+    zeros[10] = '\0';
+    const QString zeroPath = m_dir.filePath(QStringLiteral("zeros.dxf"));
+    QVERIFY(write(zeroPath, zeros));
+    QVERIFY(importDxfItems(zeroPath, &message).isEmpty());
+    QCOMPARE(message, QCoreApplication::translate("DxfImport", "DXF 文件已损坏"));
 }
 
 void TestImportItems::tracedItemLiesOverTheBitmap_data()
