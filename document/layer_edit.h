@@ -20,7 +20,8 @@ enum class LayerField {
     Power,
     Passes,
     SingleDirection,
-    Parameters
+    Parameters,
+    FineCurves
 };
 
 // One edit asked for by the layer rows or the parameter panel: the layer, the

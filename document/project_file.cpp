@@ -12,6 +12,9 @@ namespace {
 const QString kFormatTag = QStringLiteral("0001");
 const QString kSceneMarker = QStringLiteral("MY_SCENE");
 const QString kLayerMarker = QStringLiteral("MY_CENG");
+// Follows the layer record of a layer with fine curves. A string of its own, so that
+// readers that do not know it skip it; layers without the setting are stored as before.
+const QString kFineCurvesMarker = QStringLiteral("MY_CENG_JINGXI");
 const QString kItemMarker = QStringLiteral("MY_ITEM");
 const QString kItemEnd = QStringLiteral("out itemend");
 const QString kEnd = QStringLiteral("end");
@@ -110,6 +113,8 @@ bool writeProject(QIODevice *device, const QList<ProjectPageOut> &pages)
         for (const TuCeng *layer : page.layers) {
             out << kLayerMarker;
             writeTuCeng(out, *layer);
+            if (layer->jingxi)
+                out << kFineCurvesMarker;
         }
         for (const Jk_tu_yuan *item : page.items)
             writeItem(out, item);
@@ -190,6 +195,8 @@ ProjectReadResult readProject(QIODevice *device)
             ok = readTuCeng(in, layer) && settleLayer(layer);
             if (ok)
                 currentPage(r).layers.append(layer);
+        } else if (ok && marker == kFineCurvesMarker && !currentPage(r).layers.isEmpty()) {
+            currentPage(r).layers.last().jingxi = true;
         }
         // Any other string ("0001", "123", "out itemend", "end") is skipped.
         if (!ok) {

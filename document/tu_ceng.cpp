@@ -31,6 +31,7 @@ TuCeng &TuCeng::operator=(const TuCeng &other)
     mingcheng = other.mingcheng;
     shanchu = other.shanchu;
     cishu = other.cishu;
+    jingxi = other.jingxi;
     // xuanzhong is the row's own tick and is deliberately not copied.
     return *this;
 }

@@ -26,6 +26,7 @@ struct TuCeng
     bool shanchu = false;   // removal mark, used only while rebuilding the list
     qint32 cishu = 1;       // passes 1..999
     bool xuanzhong = false; // row tick; never stored, never copied
+    bool jingxi = false;    // fine curves: chords within 0.01 mm of every curve
 
     TuCeng() = default;
     // A fresh record with the defaults for layer `number`.

@@ -14,6 +14,8 @@ inline QByteArray bytesOf(const TuCeng &l)
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     writeTuCeng(out, l);
+    if (l.jingxi)
+        out << QStringLiteral("MY_CENG_JINGXI"); // as the project file stores it
     return bytes;
 }
 
