@@ -31,45 +31,46 @@ QRectF unionBox(const QList<QPainterPath> &paths)
     return box;
 }
 
-} // namespace
-
-QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths)
+// One vector item per path, the paths moved by -box.topLeft() and the items placed at
+// `place`. Consumes `paths`: each path goes into its item without a second copy.
+QList<Jk_tu_yuan *> placeVectorItems(QList<QPainterPath> &paths, const QRectF &box,
+                                     const QPointF &place)
 {
     QList<Jk_tu_yuan *> items;
-    if (paths.isEmpty())
-        return items;
     items.reserve(paths.size());
-    const QRectF box = unionBox(paths);
     const QPointF shift = -box.topLeft();
-    const QPointF place = centredTopLeft(box);
-    for (const QPainterPath &p : paths) {
-        auto *item = new Jk_tu_yuan(p.translated(shift), 1);
+    for (QPainterPath &p : paths) {
+        p.translate(shift);
+        auto *item = new Jk_tu_yuan(p, 1);
+        p = QPainterPath();
         item->setPos(place);
         item->setSelected(true);
         items.append(item);
     }
+    paths.clear();
     return items;
 }
 
-QList<Jk_tu_yuan *> makeCentredSvgItems(const SvgImportResult &result)
+} // namespace
+
+QList<Jk_tu_yuan *> makeCentredVectorItems(const QList<QPainterPath> &paths)
 {
-    if (result.images.isEmpty())
-        return makeCentredVectorItems(result.paths);
+    QList<QPainterPath> copies = paths;
+    const QRectF box = unionBox(paths);
+    return placeVectorItems(copies, box, centredTopLeft(box));
+}
+
+QList<Jk_tu_yuan *> makeCentredSvgItems(SvgImportResult &result)
+{
     QRectF box = unionBox(result.paths);
-    for (const SvgImage &image : result.images) {
+    for (const SvgImage &image : qAsConst(result.images)) {
         const QRectF r = image.pixelToMm.mapRect(QRectF(QPointF(0, 0), image.image.size()));
         box = box.isNull() ? r : box.united(r);
     }
-    QList<Jk_tu_yuan *> items = makeCentredVectorItems(result.paths);
-    const QPointF shift = -box.topLeft();
     const QPointF place = centredTopLeft(box);
-    if (!items.isEmpty()) {
-        // The vector items were centred on their own box: move them into the whole one.
-        const QPointF offset = place + unionBox(result.paths).topLeft() - box.topLeft();
-        for (Jk_tu_yuan *item : items)
-            item->setPos(offset);
-    }
-    for (const SvgImage &image : result.images) {
+    QList<Jk_tu_yuan *> items = placeVectorItems(result.paths, box, place);
+    const QPointF shift = -box.topLeft();
+    for (const SvgImage &image : qAsConst(result.images)) {
         auto *item = new Jk_tu_yuan(Jk_tu_yuan::greyFromFile(image.image));
         // The item's outline is the image at 0.254 mm per pixel; its transform takes that to
         // the image's place in the drawing.
@@ -80,6 +81,7 @@ QList<Jk_tu_yuan *> makeCentredSvgItems(const SvgImportResult &result)
         item->setSelected(true);
         items.append(item);
     }
+    result.images.clear();
     return items;
 }
 
@@ -92,7 +94,7 @@ QString svgTextLeftOutNotice(int count)
 
 QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
 {
-    const SvgImportResult result = readSvgFile(path);
+    SvgImportResult result = readSvgFile(path);
     if (!result.ok) {
         qDebug() << "svg: import failed" << path << result.error;
         if (result.limitExceeded && message)

@@ -21,8 +21,9 @@ struct SvgImportResult;
 
 // The items of an SVG drawing: one vector item per path and one bitmap item per image, at
 // its place and size (through the item transform); the drawing as a whole is centred on
-// the work area, every item keeping its place within it. The items are selected.
-QList<Jk_tu_yuan *> makeCentredSvgItems(const SvgImportResult &result);
+// the work area, every item keeping its place within it. The items are selected. The
+// paths and images are moved out of `result` into the items.
+QList<Jk_tu_yuan *> makeCentredSvgItems(SvgImportResult &result);
 
 // What the user is told when `count` texts of a drawing were left out.
 QString svgTextLeftOutNotice(int count);
