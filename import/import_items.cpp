@@ -1,6 +1,7 @@
 #include "import_items.h"
 
 #include "bitmap_trace.h"
+#include "colour_layers.h"
 #include "jk_dxf.h"
 #include "jk_tu_yuan.h"
 #include "program_state.h"
@@ -8,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QHash>
 
 namespace lumitra {
 
@@ -85,6 +87,28 @@ QList<Jk_tu_yuan *> makeCentredSvgItems(SvgImportResult &result)
     return items;
 }
 
+QVector<int> sortSvgItemsByColour(const QList<Jk_tu_yuan *> &items, const QVector<QRgb> &colours)
+{
+    QList<ColourGroup> groups;
+    QHash<QRgb, int> index;
+    for (int i = 0; i < items.size() && i < colours.size(); ++i) {
+        const QRgb c = colours[i] | 0xff000000u;
+        auto it = index.find(c);
+        if (it == index.end()) {
+            it = index.insert(c, groups.size());
+            ColourGroup g;
+            g.colour = c;
+            g.origin = QStringLiteral("SVG ") + QColor(c).name().toUpper();
+            groups.append(g);
+        }
+        groups[*it].items.append(items[i]);
+    }
+    // One colour: the drawing stays on the current layer, as without the option.
+    if (groups.size() < 2)
+        return {};
+    return applyColourLayers(groups);
+}
+
 QString svgTextLeftOutNotice(int count)
 {
     return QCoreApplication::translate("SvgImport",
@@ -94,7 +118,8 @@ QString svgTextLeftOutNotice(int count)
 
 QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
 {
-    SvgImportResult result = readSvgFile(path);
+    const bool byColour = colourLayersEnabled();
+    SvgImportResult result = readSvgFile(path, byColour);
     if (!result.ok) {
         qDebug() << "svg: import failed" << path << result.error;
         if (result.limitExceeded && message)
@@ -103,7 +128,11 @@ QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message)
     }
     if (result.textCount > 0 && message)
         *message = svgTextLeftOutNotice(result.textCount);
-    return makeCentredSvgItems(result);
+    const QVector<QRgb> colours = result.colours;
+    QList<Jk_tu_yuan *> items = makeCentredSvgItems(result);
+    if (byColour)
+        sortSvgItemsByColour(items, colours);
+    return items;
 }
 
 Jk_tu_yuan *makeDxfItem(const QPainterPath &path)

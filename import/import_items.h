@@ -3,9 +3,11 @@
 // current layer. GUI thread only.
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QPainterPath>
 #include <QString>
+#include <QVector>
 
 class QGraphicsItem;
 class Jk_tu_yuan;
@@ -24,6 +26,13 @@ struct SvgImportResult;
 // the work area, every item keeping its place within it. The items are selected. The
 // paths and images are moved out of `result` into the items.
 QList<Jk_tu_yuan *> makeCentredSvgItems(SvgImportResult &result);
+
+// With the import option "colours to layers": the vector items (given in the order of the
+// reader's paths, `colours` parallel to them) go to one layer per distinct colour, the
+// nearest palette colour first, and new layers are named "SVG #RRGGBB". A drawing of one
+// colour is left on the current layer. Returns the layer of each colour group (empty when
+// nothing was sorted).
+QVector<int> sortSvgItemsByColour(const QList<Jk_tu_yuan *> &items, const QVector<QRgb> &colours);
 
 // What the user is told when `count` texts of a drawing were left out.
 QString svgTextLeftOutNotice(int count);

@@ -104,9 +104,50 @@ struct Context
     SvgLengthContext lengths;
     bool visible = true;
     bool svgDefaultNamespace = true;
+    QStringView stroke = QStringView(u"none"); // inherited paint, when colours are read
+    QStringView fill = QStringView(u"black");
 };
 
-using Buckets = std::array<QList<QPainterPath>, 7>;
+struct Bucket
+{
+    QList<QPainterPath> paths;
+    QVector<QRgb> colours;
+};
+using Buckets = std::array<Bucket, 7>;
+
+// A paint value ("none", a colour, "url(#id) fallback"); false for none.
+bool readPaint(QStringView text, QRgb *rgb)
+{
+    QStringView v = text.trimmed();
+    if (v.startsWith(QLatin1String("url("))) {
+        const int close = v.indexOf(QLatin1Char(')'));
+        v = close < 0 ? QStringView() : v.mid(close + 1).trimmed();
+        if (v.isEmpty()) {
+            *rgb = qRgb(0, 0, 0); // a gradient or pattern: drawn, of no one colour
+            return true;
+        }
+    }
+    if (v == QLatin1String("none") || v == QLatin1String("transparent"))
+        return false;
+    if (v.startsWith(QLatin1String("rgb"))) {
+        const int open = v.indexOf(QLatin1Char('(')), close = v.indexOf(QLatin1Char(')'));
+        const QString inside =
+            open < 0 || close < open ? QString() : v.mid(open + 1, close - open - 1).toString();
+        const QStringList parts = inside.split(QLatin1Char(','));
+        int c[3] = {0, 0, 0};
+        for (int i = 0; i < 3 && i < parts.size(); ++i) {
+            const QString p = parts[i].trimmed();
+            c[i] = p.endsWith(QLatin1Char('%')) ? qRound(p.chopped(1).toDouble() * 2.55)
+                                                : qRound(p.toDouble());
+            c[i] = qBound(0, c[i], 255);
+        }
+        *rgb = qRgb(c[0], c[1], c[2]);
+        return true;
+    }
+    const QColor colour(v.toString());
+    *rgb = colour.isValid() ? colour.rgb() : qRgb(0, 0, 0);
+    return true;
+}
 
 bool userLanguageMatches(QStringView list)
 {
@@ -132,8 +173,10 @@ bool userLanguageMatches(QStringView list)
 class Collector
 {
 public:
-    Collector(const SvgDocument &doc, const QString &baseFolder, SvgImportResult &result)
-        : m_doc(doc), m_names(doc), m_tags(doc), m_baseFolder(baseFolder), m_result(result)
+    Collector(const SvgDocument &doc, const QString &baseFolder, bool withColours,
+              SvgImportResult &result)
+        : m_doc(doc), m_names(doc), m_tags(doc), m_baseFolder(baseFolder),
+          m_withColours(withColours), m_result(result)
     {
     }
 
@@ -186,6 +229,7 @@ private:
     const SvgAttributeNames m_names;
     const Tags m_tags;
     const QString m_baseFolder;
+    const bool m_withColours;
     SvgImportResult &m_result;
     QHash<QString, int> m_ids;
     bool m_idsBuilt = false;
@@ -311,6 +355,15 @@ private:
         if (m_doc.hasAttribute(node, m_names.fontSize) || m_doc.hasAttribute(node, m_names.style))
             ctx->lengths.fontSize = fontSize(node, parent.lengths);
         applyVisibility(node, ctx);
+        if (m_withColours) {
+            QStringView v;
+            if (property(node, QLatin1String("stroke"), m_names.stroke, &v)
+                && v != QLatin1String("inherit"))
+                ctx->stroke = v;
+            if (property(node, QLatin1String("fill"), m_names.fill, &v)
+                && v != QLatin1String("inherit"))
+                ctx->fill = v;
+        }
         return true;
     }
 
@@ -356,15 +409,22 @@ private:
         return m_ids.value(href.mid(1), SvgDocument::kNone);
     }
 
-    void count(Buckets &found, int kind, const QPainterPath &mm)
+    void count(Buckets &found, int kind, const QPainterPath &mm, const Context &ctx)
     {
         if (++m_shapes > kMaxShapes) {
             m_full = true;
             return;
         }
-        if (isUsable(mm))
-            found[size_t(kind)].append(mm);
-        else
+        if (isUsable(mm)) {
+            Bucket &b = found[size_t(kind)];
+            b.paths.append(mm);
+            if (m_withColours) {
+                QRgb rgb = qRgb(0, 0, 0);
+                if (!readPaint(ctx.stroke, &rgb) && !readPaint(ctx.fill, &rgb))
+                    rgb = qRgb(0, 0, 0);
+                b.colours.append(rgb);
+            }
+        } else
             qDebug() << "svg: shape dropped" << svgShapeTags().value(kind);
     }
 
@@ -372,9 +432,11 @@ private:
     {
         if (m_full)
             return;
-        for (QList<QPainterPath> &list : found) {
-            m_result.paths.append(list);
-            list.clear();
+        for (Bucket &b : found) {
+            m_result.paths.append(b.paths);
+            m_result.colours += b.colours;
+            b.paths.clear();
+            b.colours.clear();
         }
     }
 
@@ -399,7 +461,7 @@ private:
             const QPainterPath local =
                 convertSvgShape(SvgShapeKind(kind), m_doc, node, m_names, ctx.lengths);
             if (!local.isEmpty())
-                count(found, kind, ctx.toMm.map(local));
+                count(found, kind, ctx.toMm.map(local), ctx);
             return;
         }
         if (tag == m_tags.g || tag == m_tags.a) {
@@ -567,7 +629,7 @@ const QStringList &svgShapeTags()
     return tags;
 }
 
-SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder)
+SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder, bool withColours)
 {
     SvgImportResult result;
     if (data.trimmed().isEmpty()) {
@@ -577,11 +639,12 @@ SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder)
     SvgDocument doc;
     if (!doc.parse(data, kMaxDepth, &result.error, &result.limitExceeded))
         return result;
-    Collector collector(doc, baseFolder, result);
+    Collector collector(doc, baseFolder, withColours, result);
     collector.visitRoot();
     if (collector.full()) {
         result.paths.clear();
         result.images.clear();
+        result.colours.clear();
         result.error = QCoreApplication::translate("SvgImport", "SVG 文件图形数量过多");
         result.limitExceeded = true;
         return result;
@@ -590,7 +653,7 @@ SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder)
     return result;
 }
 
-SvgImportResult readSvgFile(const QString &filePath)
+SvgImportResult readSvgFile(const QString &filePath, bool withColours)
 {
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -605,7 +668,7 @@ SvgImportResult readSvgFile(const QString &filePath)
         result.limitExceeded = true;
         return result;
     }
-    return readSvgData(file.readAll(), QFileInfo(filePath).absolutePath());
+    return readSvgData(file.readAll(), QFileInfo(filePath).absolutePath(), withColours);
 }
 
 } // namespace lumitra

@@ -21,6 +21,7 @@
 #include <QPainterPath>
 #include <QString>
 #include <QTransform>
+#include <QVector>
 
 namespace lumitra {
 
@@ -40,13 +41,17 @@ struct SvgImportResult
     QList<QPainterPath> paths;  // millimetres, y pointing down as in the file
     int textCount = 0;          // text elements left out (not converted to outlines)
     QList<SvgImage> images;     // bitmaps, in document order
+    // With colours asked for: per path, its stroke colour, or its fill colour when it has no
+    // stroke (black when neither is readable).
+    QVector<QRgb> colours;
 };
 
 // The shape tags in the order a container is searched.
 const QStringList &svgShapeTags();
 
 // `baseFolder` is where images named by a relative file name are looked for.
-SvgImportResult readSvgFile(const QString &filePath);
-SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder = QString());
+SvgImportResult readSvgFile(const QString &filePath, bool withColours = false);
+SvgImportResult readSvgData(const QByteArray &data, const QString &baseFolder = QString(),
+                            bool withColours = false);
 
 } // namespace lumitra

@@ -1,12 +1,15 @@
 // The DXF reader (each entity kind, bulges, object coordinate systems pointing down, units,
 // blocks, spline accuracy), then import results as design items: centred SVG drawings, the
 // mirrored DXF item through the undoable add, and the traced item lying over its bitmap.
+#include "colour_layers.h"
 #include "dxf_text.h"
 #include "import_items.h"
 #include "jk_chang_jing.h"
 #include "jk_dxf.h"
 #include "jk_tu_yuan.h"
+#include "layer_list.h"
 #include "program_state.h"
+#include "tu_ceng.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
@@ -85,6 +88,9 @@ private slots:
     void svgFileBecomesCentredItems_data();
     void svgFileBecomesCentredItems();
     void svgImagesAndTexts();
+    void svgColoursToLayers_data();
+    void svgColoursToLayers();
+    void colourAssignment();
     void dxfItemIsMirrored_data();
     void dxfItemIsMirrored();
     void dxfFileGoesThroughTheUndoableAdd();
@@ -371,6 +377,90 @@ void TestImportItems::svgImagesAndTexts()
              describe(sceneBox(items[1])));
     QVERIFY(items[1]->isSelected());
     qDeleteAll(items);
+}
+
+void TestImportItems::svgColoursToLayers_data()
+{
+    QTest::addColumn<bool>("option");
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QVector<int>>("layers"); // per item
+    QTest::addColumn<QStringList>("newNames");
+    const QString two = QStringLiteral("<rect stroke='#ff0000' fill='none' width='5' height='5'/>"
+                                       "<rect stroke='#0000fe' fill='none' width='5' height='5'/>"
+                                       "<rect style='stroke:red' width='1' height='1'/>");
+    // Palette layer 2 is pure red, layer 1 pure blue.
+    QTest::newRow("option off: the current layer")
+        << false << two << QVector<int>{7, 7, 7} << QStringList{};
+    QTest::newRow("two colours, each on its nearest layer")
+        << true << two << QVector<int>{2, 1, 2}
+        << QStringList{QStringLiteral("SVG #0000FE"), QStringLiteral("SVG #FF0000")};
+    QTest::newRow("one colour: the current layer")
+        << true
+        << QStringLiteral("<rect stroke='red' width='5' height='5'/><circle stroke='red' r='2'/>")
+        << QVector<int>{7, 7} << QStringList{};
+}
+
+void TestImportItems::svgColoursToLayers()
+{
+    QFETCH(bool, option);
+    QFETCH(QString, body);
+    QFETCH(QVector<int>, layers);
+    QFETCH(QStringList, newNames);
+    programState().currentLayer = 7;
+    LayerList::instance().clear();
+    setColourLayersEnabled(option);
+    QCOMPARE(colourLayersEnabled(), option);
+    const QString svg = m_dir.filePath(QStringLiteral("colours.svg"));
+    QFile file(svg);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(("<svg xmlns='http://www.w3.org/2000/svg' width='10mm' height='10mm' "
+                "viewBox='0 0 10 10'>"
+                + body + "</svg>")
+                   .toUtf8());
+    file.close();
+    const QList<Jk_tu_yuan *> items = importSvgItems(svg, nullptr);
+    QVector<int> got;
+    for (const Jk_tu_yuan *item : items)
+        got.append(item->layer_id);
+    QCOMPARE(got, layers);
+    QStringList names;
+    for (const TuCeng *l : LayerList::instance().layers())
+        names.append(l->mingcheng);
+    names.sort();
+    QCOMPARE(names, newNames);
+    qDeleteAll(items);
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
+}
+
+void TestImportItems::colourAssignment()
+{
+    // Exact palette colours take their own layers, whatever the order; a near colour takes
+    // the nearest layer still free.
+    const QRgb nearFive = layerColor(5).rgb() ^ 0x010101;
+    QCOMPARE(assignColourLayers({nearFive}), QVector<int>{5});
+    const QVector<int> three =
+        assignColourLayers({nearFive, layerColor(5).rgb(), layerColor(0).rgb()});
+    QCOMPARE(three[1], 5);
+    QCOMPARE(three[2], 0);
+    QVERIFY(three[0] != 5 && three[0] != 0);
+    QVector<QRgb> many;
+    for (int i = 0; i < 40; ++i)
+        many.append(qRgb(i * 6, 255 - i * 6, (i * 37) % 256));
+    const QVector<int> layers = assignColourLayers(many);
+    QCOMPARE(layers.size(), 40);
+    QSet<int> distinct;
+    for (int l : layers) {
+        QVERIFY(l >= 0 && l < kLayerCount);
+        distinct.insert(l);
+    }
+    QCOMPARE(distinct.size(), kLayerCount); // every layer used once the colours outnumber them
+    // AutoCAD colour index: the first ones by name, 7 drawn black, the greys at the end.
+    QCOMPARE(aciColour(1), qRgb(255, 0, 0));
+    QCOMPARE(aciColour(5), qRgb(0, 0, 255));
+    QCOMPARE(aciColour(7), qRgb(0, 0, 0));
+    QCOMPARE(aciColour(255), qRgb(255, 255, 255));
+    QCOMPARE(aciColour(10), qRgb(255, 0, 0));
 }
 
 void TestImportItems::dxfItemIsMirrored_data()

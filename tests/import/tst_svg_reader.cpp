@@ -108,6 +108,7 @@ private slots:
     void drawnElements_data();
     void drawnElements();
     void images();
+    void colours();
 };
 
 void TestSvgReader::coordinateList_data()
@@ -645,6 +646,29 @@ void TestSvgReader::images()
     QVERIFY2(near(mapped(1), QRectF(100, 0, 8, 4), 1e-9), qPrintable(describe(mapped(1))));
     // Read from data, relative files have no folder to be found in.
     QCOMPARE(readSvgData(svg.toUtf8()).images.size(), 1);
+}
+
+void TestSvgReader::colours()
+{
+    // Stroke first, else fill; both inherited, as attributes or styles; fill is black
+    // unless said otherwise.
+    const QString svg =
+        svgDoc("<g stroke='#ff0000'><rect width='1' height='1'/>"
+               "<rect stroke='none' fill='blue' width='2' height='2'/></g>"
+               "<circle style='stroke:rgb(0,128,0)' r='1'/><path fill='none' d='M0 0 L1 1'/>"
+               "<g style='fill:#0f0;stroke:none'><line x2='3' fill='url(#gradient) #123456'/></g>");
+    const SvgImportResult result = readSvgData(svg.toUtf8(), QString(), true);
+    QVERIFY(result.ok);
+    QCOMPARE(result.paths.size(), 5);
+    // The group's kinds come path first, then rects, circles, lines.
+    const QVector<QRgb> expected = {qRgb(255, 0, 0), qRgb(0, 0, 255), qRgb(0, 128, 0),
+                                    qRgb(0, 0, 0), qRgb(0x12, 0x34, 0x56)};
+    QVector<QRgb> got = result.colours;
+    for (QRgb &c : got)
+        c |= 0xff000000u;
+    QCOMPARE(got, expected);
+    // Not asked for: none read.
+    QVERIFY(readSvgData(svg.toUtf8()).colours.isEmpty());
 }
 
 #include "tst_svg_reader.moc"
