@@ -3,6 +3,7 @@
 #include "project_file.h"
 
 #include <QObject>
+#include <QPointF>
 #include <functional>
 #include <optional>
 
@@ -62,10 +63,13 @@ public slots:
     SaveOutcome save_project_as();
     // The "open" command: refusal while engraving, the open dialog, open_file.
     OpenOutcome open_project();
-    // Opens one file by its extension onto the current page.
-    OpenOutcome open_file(const QString &path);
+    // Opens one file by its extension onto the current page. Imported items land centred
+    // on `dropAt` (scene coordinates) when given, else where the importer puts them.
+    OpenOutcome open_file(const QString &path, std::optional<QPointF> dropAt = std::nullopt);
     // Opens each file in turn (drag and drop).
     void open_files(const QStringList &paths);
+    // Opens each file in turn, imports landing where they were dropped (scene point).
+    void open_files_at(const QStringList &paths, const QPointF &scenePos);
 
 signals:
     void currentPathChanged(const QString &path);

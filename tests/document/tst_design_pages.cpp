@@ -484,6 +484,40 @@ private slots:
         QCOMPARE(pages.currentScene()->designItemCount(), 2);
         QCOMPARE(pages.currentUndoStack()->count(), 2);
     }
+
+    // Dropped imports land centred where they were dropped; opened ones centre on the work
+    // area as before.
+    void droppedImportsLandWhereDropped()
+    {
+        DesignPages pages;
+        pages.resize(800, 600);
+        ProjectCommands commands(&pages, nullptr);
+        connect(&pages, &DesignPages::filesDroppedAt, &commands, &ProjectCommands::open_files_at);
+        const QString png = writeFile(QStringLiteral("drop.png"));
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(png)});
+        Jk_shi_tu *view = pages.currentView();
+        const QPoint at(120, 90);
+        QDragEnterEvent enter(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &drop);
+        QCOMPARE(pages.currentScene()->designItemCount(), 1);
+        const Jk_tu_yuan *item = pages.currentScene()->designItems().first();
+        const QPointF centre = item->sceneTransform().map(item->path).boundingRect().center();
+        const QPointF expected = view->mapToScene(at);
+        QVERIFY2(QLineF(centre, expected).length() < 1e-6,
+                 qPrintable(QStringLiteral("%1,%2").arg(centre.x()).arg(centre.y())));
+
+        QCOMPARE(commands.open_file(png), Open::Opened);
+        const Jk_tu_yuan *opened = pages.currentScene()->designItems().first() == item
+                                       ? pages.currentScene()->designItems().last()
+                                       : pages.currentScene()->designItems().first();
+        const QPointF openedCentre =
+            opened->sceneTransform().map(opened->path).boundingRect().center();
+        QVERIFY(QLineF(openedCentre, expected).length() > 1);
+    }
 };
 
 QTEST_MAIN(TestDesignPages)
