@@ -153,8 +153,19 @@ ProjectCommands::OpenOutcome ProjectCommands::open_project()
     return open_file(path);
 }
 
-ProjectCommands::OpenOutcome ProjectCommands::open_file(const QString &path,
-                                                        std::optional<QPointF> dropAt)
+ProjectCommands::OpenOutcome ProjectCommands::open_file(const QString &path)
+{
+    return openFile(path, std::nullopt);
+}
+
+ProjectCommands::OpenOutcome ProjectCommands::open_file_at(const QString &path,
+                                                           const QPointF &scenePos)
+{
+    return openFile(path, scenePos);
+}
+
+ProjectCommands::OpenOutcome ProjectCommands::openFile(const QString &path,
+                                                       std::optional<QPointF> dropAt)
 {
     if (refuseWhileEngraving())
         return OpenOutcome::Refused;
@@ -256,6 +267,6 @@ void ProjectCommands::open_files(const QStringList &paths)
 void ProjectCommands::open_files_at(const QStringList &paths, const QPointF &scenePos)
 {
     for (const QString &path : paths)
-        if (open_file(path, scenePos) == OpenOutcome::Refused)
+        if (open_file_at(path, scenePos) == OpenOutcome::Refused)
             return;
 }

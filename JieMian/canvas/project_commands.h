@@ -63,9 +63,10 @@ public slots:
     SaveOutcome save_project_as();
     // The "open" command: refusal while engraving, the open dialog, open_file.
     OpenOutcome open_project();
-    // Opens one file by its extension onto the current page. Imported items land centred
-    // on `dropAt` (scene coordinates) when given, else where the importer puts them.
-    OpenOutcome open_file(const QString &path, std::optional<QPointF> dropAt = std::nullopt);
+    // Opens one file by its extension onto the current page.
+    OpenOutcome open_file(const QString &path);
+    // The same, imported items centred on `scenePos` (where they were dropped).
+    OpenOutcome open_file_at(const QString &path, const QPointF &scenePos);
     // Opens each file in turn (drag and drop).
     void open_files(const QStringList &paths);
     // Opens each file in turn, imports landing where they were dropped (scene point).
@@ -81,6 +82,7 @@ private:
     // The save refusals (engraving, empty design), told to the user.
     std::optional<SaveOutcome> refuseSave();
     OpenOutcome openProjectFile(const QString &path);
+    OpenOutcome openFile(const QString &path, std::optional<QPointF> dropAt);
     OpenOutcome opened(const QString &path, OpenOutcome outcome);
     SaveOutcome writeProject(const QString &path);
 
