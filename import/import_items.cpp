@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QHash>
+#include <QSet>
 
 namespace lumitra {
 
@@ -152,8 +153,11 @@ Jk_tu_yuan *makeDxfItem(const QPainterPath &path)
 QList<Jk_tu_yuan *> importDxfItems(const QString &path, QString *message)
 {
     Jk_dxf *reader = new Jk_dxf(nullptr);
+    const bool byColour = colourLayersEnabled();
+    reader->setCollectParts(byColour);
     const QPainterPath outline = reader->dxf_jie_xi(path);
     const QString error = reader->lastError();
+    const QList<DxfPart> parts = reader->parts();
     delete reader;
     if (outline.elementCount() < 2) {
         qDebug() << "dxf: import failed" << path << error;
@@ -161,7 +165,42 @@ QList<Jk_tu_yuan *> importDxfItems(const QString &path, QString *message)
             *message = error;
         return {};
     }
-    return {makeDxfItem(outline)};
+    Jk_tu_yuan *whole = makeDxfItem(outline);
+    if (!byColour || parts.size() < 2)
+        return {whole};
+    return sortDxfPartsByColour(whole, parts);
+}
+
+QList<Jk_tu_yuan *> sortDxfPartsByColour(Jk_tu_yuan *whole, const QList<DxfPart> &parts)
+{
+    // One item per part, placed as the whole drawing is.
+    QSet<QString> layers, layersWithSeveralColours;
+    for (const DxfPart &p : parts) {
+        if (layers.contains(p.layer))
+            layersWithSeveralColours.insert(p.layer);
+        layers.insert(p.layer);
+    }
+    QList<ColourGroup> groups;
+    QList<Jk_tu_yuan *> items;
+    for (const DxfPart &p : parts) {
+        if (p.path.elementCount() < 2)
+            continue;
+        auto *item = new Jk_tu_yuan(p.path, 1);
+        item->setTransform(whole->transform());
+        item->setPos(whole->pos());
+        item->setSelected(true);
+        items.append(item);
+        ColourGroup g;
+        g.colour = aciColour(p.colour);
+        g.origin = QStringLiteral("DXF ") + p.layer;
+        if (layersWithSeveralColours.contains(p.layer))
+            g.origin += QStringLiteral(" ACI %1").arg(p.colour);
+        g.items = {item};
+        groups.append(g);
+    }
+    delete whole;
+    applyColourLayers(groups);
+    return items;
 }
 
 Jk_tu_yuan *singleSelectedBitmap(const QList<QGraphicsItem *> &selected)

@@ -49,7 +49,16 @@ QList<Jk_tu_yuan *> importSvgItems(const QString &path, QString *message);
 // area; otherwise it is centred on the work area. The item is selected.
 Jk_tu_yuan *makeDxfItem(const QPainterPath &path);
 
+struct DxfPart;
+
+// With "colours to layers": the DXF drawing as one item per layer and colour (placed as
+// the one item `whole` is, which is deleted), each group on its own layer, nearest palette
+// colour first; new layers are named "DXF <layer>" ("DXF <layer> ACI <n>" when a layer
+// holds several colours).
+QList<Jk_tu_yuan *> sortDxfPartsByColour(Jk_tu_yuan *whole, const QList<DxfPart> &parts);
+
 // Importer for ".dxf" files (signature of the open dispatch); failures give a message.
+// With "colours to layers" and a drawing of several layers or colours: one item per group.
 QList<Jk_tu_yuan *> importDxfItems(const QString &path, QString *message);
 
 // The one selected item when it is a bitmap item, otherwise nullptr.

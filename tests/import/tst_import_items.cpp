@@ -91,6 +91,7 @@ private slots:
     void svgColoursToLayers_data();
     void svgColoursToLayers();
     void colourAssignment();
+    void dxfColoursToLayers();
     void dxfItemIsMirrored_data();
     void dxfItemIsMirrored();
     void dxfFileGoesThroughTheUndoableAdd();
@@ -461,6 +462,63 @@ void TestImportItems::colourAssignment()
     QCOMPARE(aciColour(7), qRgb(0, 0, 0));
     QCOMPARE(aciColour(255), qRgb(255, 255, 255));
     QCOMPARE(aciColour(10), qRgb(255, 0, 0));
+}
+
+void TestImportItems::dxfColoursToLayers()
+{
+    // Layer CUT is red (ACI 1) in the table; ENGRAVE has no table entry.
+    const QString tables = g(0, "SECTION") + g(2, "TABLES") + g(0, "TABLE") + g(2, "LAYER")
+                           + g(70, 1) + g(0, "LAYER") + g(2, "CUT") + g(70, 0) + g(62, 1)
+                           + g(6, "CONTINUOUS") + g(0, "ENDTAB") + g(0, "ENDSEC");
+    auto on = [](const char *layer, int colour) {
+        return g(8, layer) + (colour >= 0 ? g(62, colour) : QString());
+    };
+    const QString blocks = ent("BLOCK") + g(2, "MARKER") + g(70, 0) + xy(10, 0, 0) + g(3, "MARKER")
+                           + g(0, "LINE") + on("0", 0) + xy(10, 0, 0) + xy(11, 1, 0)
+                           + ent("ENDBLK");
+    const QString entities =
+        g(0, "LINE") + on("CUT", -1) + xy(10, 0, 0) + xy(11, 10, 0)        // CUT by layer
+        + g(0, "CIRCLE") + on("ENGRAVE", 5) + xy(10, 20, 20) + g(40, 2.0)  // blue
+        + g(0, "LINE") + on("CUT", 3) + xy(10, 0, 5) + xy(11, 10, 5)       // CUT, green
+        + g(0, "INSERT") + on("MARK", 6) + g(2, "MARKER") + xy(10, 30, 30) // by block
+        + g(0, "LINE") + on("CUT", 256) + xy(10, 0, 10) + xy(11, 10, 10);  // CUT again
+    QString text = file(entities, 4, blocks);
+    text.insert(text.indexOf(g(0, "SECTION") + g(2, "BLOCKS")), tables);
+    const QString path = put(text);
+
+    programState().currentLayer = 7;
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
+    QString message;
+    QList<Jk_tu_yuan *> items = importDxfItems(path, &message);
+    QCOMPARE(items.size(), 1);
+    const QRectF whole = sceneBox(items.first());
+    qDeleteAll(items);
+
+    setColourLayersEnabled(true);
+    items = importDxfItems(path, &message);
+    QCOMPARE(items.size(), 4);
+    QStringList names;
+    for (const TuCeng *l : LayerList::instance().layers())
+        names.append(l->mingcheng);
+    QCOMPARE(names, (QStringList{"DXF CUT ACI 1", "DXF ENGRAVE", "DXF CUT ACI 3", "DXF MARK"}));
+    // The red and blue groups take the palette's red and blue layers; all differ.
+    QCOMPARE(items[0]->layer_id, 2);
+    QCOMPARE(items[1]->layer_id, 1);
+    QSet<int> used;
+    QRectF together;
+    for (const Jk_tu_yuan *item : items) {
+        used.insert(item->layer_id);
+        together = together.isNull() ? sceneBox(item) : together.united(sceneBox(item));
+    }
+    QCOMPARE(used.size(), 4);
+    // The parts lie where the one item lay; the by-layer line of CUT came with the first.
+    QVERIFY2(near(together, whole, 1e-9), describe(together) + " vs " + describe(whole));
+    QVERIFY2(near(sceneBox(items[0]), QRectF(whole.left(), whole.bottom() - 10, 10, 10), 1e-9),
+             describe(sceneBox(items[0])));
+    qDeleteAll(items);
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
 }
 
 void TestImportItems::dxfItemIsMirrored_data()
