@@ -303,4 +303,5 @@ void Jk_shi_tu::dropEvent(QDropEvent *event)
     }
     event->acceptProposedAction();
     emit filesDropped(paths);
+    emit filesDroppedAt(paths, mapToScene(event->pos()));
 }

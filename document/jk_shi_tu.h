@@ -58,6 +58,8 @@ signals:
     void cursorMoved(const QPointF &scenePos);
     // Files dropped onto the canvas that the open dispatch accepts.
     void filesDropped(const QStringList &paths);
+    // The same drop with the scene point it was dropped at.
+    void filesDroppedAt(const QStringList &paths, const QPointF &scenePos);
     // A rubber band finished; the selection has been updated.
     void rubberBandSelected(const QRectF &sceneRect);
     void zoomChanged(double pixelsPerMm);

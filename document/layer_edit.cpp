@@ -36,6 +36,9 @@ void copyLayerField(TuCeng &to, const TuCeng &from, LayerField field)
     case LayerField::SingleDirection:
         to.danxiang = from.danxiang;
         break;
+    case LayerField::FineCurves:
+        to.jingxi = from.jingxi;
+        break;
     case LayerField::Parameters:
         to.moshi = from.moshi;
         to.fangxiang = from.fangxiang;
@@ -66,5 +69,6 @@ bool sameLayerField(const TuCeng &a, const TuCeng &b, LayerField field)
            && probe.mingcheng == a.mingcheng && probe.fangxiang == a.fangxiang
            && probe.jianju == a.jianju && probe.saomiao == a.saomiao && probe.sudu == a.sudu
            && probe.gonglv == a.gonglv && probe.cishu == a.cishu && probe.danxiang == a.danxiang
-           && probe.kerf == a.kerf && probe.cutOrder == a.cutOrder;
+           && probe.kerf == a.kerf && probe.cutOrder == a.cutOrder
+           && probe.jingxi == a.jingxi;
 }

@@ -22,7 +22,8 @@ enum class LayerField {
     SingleDirection,
     Parameters,
     Kerf,
-    CutOrder
+    CutOrder,
+    FineCurves
 };
 
 // One edit asked for by the layer rows or the parameter panel: the layer, the

@@ -12,6 +12,8 @@ namespace {
 const QString kFormatTag = QStringLiteral("0001");
 const QString kSceneMarker = QStringLiteral("MY_SCENE");
 const QString kLayerMarker = QStringLiteral("MY_CENG");
+// Follows the layer record of a layer with fine curves. A string of its own, so that
+// readers that do not know it skip it; layers without the setting are stored as before.
 const QString kItemMarker = QStringLiteral("MY_ITEM");
 const QString kItemEnd = QStringLiteral("out itemend");
 const QString kEnd = QStringLiteral("end");

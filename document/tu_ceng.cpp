@@ -35,6 +35,7 @@ TuCeng &TuCeng::operator=(const TuCeng &other)
     cishu = other.cishu;
     kerf = other.kerf;
     cutOrder = other.cutOrder;
+    jingxi = other.jingxi;
     // xuanzhong is the row's own tick and is deliberately not copied.
     return *this;
 }
@@ -127,6 +128,8 @@ QString layerExtrasText(const TuCeng &l)
         fields << QStringLiteral("kerf=") + QString::number(l.kerf, 'g', 12);
     if (l.cutOrder != CutAsDrawn)
         fields << QStringLiteral("order=") + QString::number(l.cutOrder);
+    if (l.jingxi)
+        fields << QStringLiteral("fine=1");
     if (fields.isEmpty())
         return QString();
     return kExtrasMarker + QLatin1Char(' ') + fields.join(QLatin1Char(' '));
@@ -147,6 +150,10 @@ bool readLayerExtras(const QString &text, TuCeng &l)
             const double v = w.midRef(eq + 1).toDouble(&ok);
             if (ok && std::isfinite(v))
                 l.kerf = qBound(0.0, v, 5.0);
+        } else if (key == QLatin1String("fine")) {
+            const int v = w.midRef(eq + 1).toInt(&ok);
+            if (ok)
+                l.jingxi = v != 0;
         } else if (key == QLatin1String("order")) {
             const int v = w.midRef(eq + 1).toInt(&ok);
             if (ok)

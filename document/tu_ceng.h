@@ -28,6 +28,7 @@ struct TuCeng
     bool xuanzhong = false; // row tick; never stored, never copied
     double kerf = 0.0;      // width of the cut, mm 0..5; line cuts are moved by half of it
     qint32 cutOrder = 0;    // CutOrder: how the layer's outlines are ordered in the job
+    bool jingxi = false;    // fine curves: chords within 0.01 mm of every curve
 
     TuCeng() = default;
     // A fresh record with the defaults for layer `number`.

@@ -92,4 +92,22 @@ void sampleCubicByLength(const QPointF &p0, const QPointF &c1, const QPointF &c2
     out.append(p3);
 }
 
+void sampleCubicByDeviation(const QPointF &p0, const QPointF &c1, const QPointF &c2,
+                            const QPointF &p3, double maxDeviation, QVector<QPointF> &out)
+{
+    const QPointF d1 = p0 - 2 * c1 + c2, d2 = c1 - 2 * c2 + p3;
+    const double m = 6 * std::max(std::hypot(d1.x(), d1.y()), std::hypot(d2.x(), d2.y()));
+    // h = 1/n with n^2 >= max|B''| / (8 deviation).
+    double n = std::ceil(std::sqrt(m / (8 * maxDeviation)));
+    if (!(n >= 1))
+        n = 1;
+    const int steps = int(std::min(n, double(kMaxChords)));
+    const Cubic c(p0, c1, c2, p3);
+    for (int i = 1; i < steps; ++i) {
+        const double u = double(i) / steps;
+        out.append(QPointF(c.x(u), c.y(u)));
+    }
+    out.append(p3);
+}
+
 } // namespace lumitra

@@ -17,6 +17,16 @@ constexpr double kCurveSampleStep = 0.8;
 void sampleCubicByLength(const QPointF &p0, const QPointF &c1, const QPointF &c2, const QPointF &p3,
                          double step, QVector<QPointF> &out);
 
+// Fine sampling: the largest distance allowed between a curve and its chords, mm.
+constexpr double kFineCurveDeviation = 0.01;
+
+// Appends to `out` the points of the cubic at n even steps of its parameter (without p0,
+// ending with p3 itself), n the least count for which every chord stays within
+// `maxDeviation` of the curve: for a cubic B, a chord over a parameter step h lies within
+// h^2/8 * max|B''| of it, and |B''| <= 6 max(|p0 - 2 c1 + c2|, |c1 - 2 c2 + p3|).
+void sampleCubicByDeviation(const QPointF &p0, const QPointF &c1, const QPointF &c2,
+                            const QPointF &p3, double maxDeviation, QVector<QPointF> &out);
+
 // The length of the cubic as sampleCubicByLength measures it.
 double cubicLength(const QPointF &p0, const QPointF &c1, const QPointF &c2, const QPointF &p3);
 

@@ -78,6 +78,7 @@ void PathEmitter::setLayer(const TuCeng &layer, double feedCap)
     m_layerPower = power;
     m_layerFeed = layer.sudu;
     m_feedCap = feedCap;
+    m_fineCurves = layer.jingxi;
     setRasterWords(m_raster, m_steps);
 }
 
@@ -325,7 +326,10 @@ void PathEmitter::emitPath(const QPainterPath &path)
             const QPointF control = path.elementAt(i + 1);
             const QPointF end = path.elementAt(i + 2);
             m_samples.resize(0);
-            sampleCubicByLength(start, e, control, end, kCurveSampleStep, m_samples);
+            if (m_fineCurves)
+                sampleCubicByDeviation(start, e, control, end, kFineCurveDeviation, m_samples);
+            else
+                sampleCubicByLength(start, e, control, end, kCurveSampleStep, m_samples);
             for (const QPointF &s : qAsConst(m_samples))
                 writeLine('1', s.x(), s.y(), nullptr);
             i += 2;

@@ -152,6 +152,7 @@ private:
     bool m_raster = false;
     PowerSteps m_steps;
     double m_layerPower = 0.0;
+    bool m_fineCurves = false; // the layer samples curves to kFineCurveDeviation
     double m_layerFeed = 0.0;
     double m_feedCap = 0.0;
     NumberText m_rasterPower;

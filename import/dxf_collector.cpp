@@ -118,6 +118,64 @@ public:
     {
     }
 
+    // By layer and colour: the part for a key of the block, resolved against the insert
+    // that placed the block (outer layer and colour; none at the model space).
+    bool expandParts(const DxfBlock &block, const QTransform &t, int depth, const DxfKey *outer,
+                     QList<DxfPart> &parts, int &elements)
+    {
+        for (int m = 0; m < block.marks.size(); ++m) {
+            const int from = block.marks[m].first;
+            const int to =
+                m + 1 < block.marks.size() ? block.marks[m + 1].first : block.path.elementCount();
+            QPainterPath piece;
+            for (int i = from; i < to; ++i) {
+                const QPainterPath::Element e = block.path.elementAt(i);
+                if (e.isMoveTo()) {
+                    piece.moveTo(e.x, e.y);
+                } else if (e.isLineTo()) {
+                    piece.lineTo(e.x, e.y);
+                } else if (e.isCurveTo() && i + 2 < to) {
+                    piece.cubicTo(QPointF(e.x, e.y), block.path.elementAt(i + 1),
+                                  block.path.elementAt(i + 2));
+                    i += 2;
+                }
+            }
+            elements += piece.elementCount();
+            if (elements > kMaxElements)
+                return false;
+            part(block.marks[m].second, outer, parts).addPath(t.map(piece));
+        }
+        const double stretch = std::max(maxStretch(t), 1e-12);
+        for (const DxfSpline &s : block.splines) {
+            QPainterPath local;
+            if (s.curve.controlPoints.size() >= 2)
+                local.addPolygon(
+                    flattenNurbs(s.curve, m_tolerance / stretch, kMaxElements - elements));
+            else
+                local = throughFitPoints(s.fitPoints, s.closed);
+            if (s.closed)
+                local.closeSubpath();
+            elements += local.elementCount();
+            if (elements > kMaxElements)
+                return false;
+            part(s.key, outer, parts).addPath(t.map(local));
+        }
+        for (const DxfInsert &ins : block.inserts) {
+            const auto it = m_c.m_blocks.constFind(ins.block);
+            if (it == m_c.m_blocks.constEnd() || depth >= kMaxInsertDepth)
+                continue;
+            const DxfKey here = resolve(ins.key, outer);
+            for (int col = 0; col < ins.columns; ++col)
+                for (int row = 0; row < ins.rows; ++row) {
+                    if (++m_expansions > kMaxExpansions
+                        || !expandParts(*it, placement(*it, ins, col, row) * t, depth + 1, &here,
+                                        parts, elements))
+                        return false;
+                }
+        }
+        return true;
+    }
+
     bool expand(const DxfBlock &block, const QTransform &t, int depth, QPainterPath &out)
     {
         if (out.elementCount() + block.path.elementCount() > kMaxElements)
@@ -151,14 +209,7 @@ public:
             }
             for (int col = 0; col < ins.columns; ++col)
                 for (int row = 0; row < ins.rows; ++row) {
-                    QTransform place =
-                        QTransform::fromTranslate(-it->base.x(), -it->base.y())
-                        * QTransform::fromScale(ins.scaleX, ins.scaleY)
-                        * QTransform::fromTranslate(col * ins.columnSpacing, row * ins.rowSpacing);
-                    place = place * QTransform().rotate(ins.angleDegrees)
-                            * QTransform::fromTranslate(ins.at.x(), ins.at.y());
-                    if (ins.mirrored)
-                        place = place * kMirrorX;
+                    const QTransform place = placement(*it, ins, col, row);
                     if (++m_expansions > kMaxExpansions || !expand(*it, place * t, depth + 1, out))
                         return false;
                 }
@@ -167,6 +218,45 @@ public:
     }
 
 private:
+    static QTransform placement(const DxfBlock &b, const DxfInsert &ins, int col, int row)
+    {
+        QTransform place =
+            QTransform::fromTranslate(-b.base.x(), -b.base.y())
+            * QTransform::fromScale(ins.scaleX, ins.scaleY)
+            * QTransform::fromTranslate(col * ins.columnSpacing, row * ins.rowSpacing);
+        place = place * QTransform().rotate(ins.angleDegrees)
+                * QTransform::fromTranslate(ins.at.x(), ins.at.y());
+        if (!ins.ocs.isIdentity())
+            place = place * ins.ocs;
+        return place;
+    }
+
+    // Layer "0" and by-block colours take the placing insert's; by-layer colours the
+    // layer's (7 when the table does not say).
+    DxfKey resolve(int keyIndex, const DxfKey *outer) const
+    {
+        DxfKey k = m_c.m_keys.value(keyIndex);
+        if (outer && (k.layer == QLatin1String("0") || k.layer.isEmpty()))
+            k.layer = outer->layer;
+        if (k.colour == 0)
+            k.colour = outer ? outer->colour : 7;
+        if (k.colour == 256 || k.colour < 0 || k.colour > 256)
+            k.colour = std::abs(m_c.m_layerColours.value(k.layer.toUpper(), 7));
+        if (k.colour < 1 || k.colour > 255)
+            k.colour = 7;
+        return k;
+    }
+
+    QPainterPath &part(int keyIndex, const DxfKey *outer, QList<DxfPart> &parts) const
+    {
+        const DxfKey k = resolve(keyIndex, outer);
+        for (DxfPart &p : parts)
+            if (p.layer == k.layer && p.colour == k.colour)
+                return p.path;
+        parts.append(DxfPart{k.layer, k.colour, QPainterPath()});
+        return parts.last().path;
+    }
+
     const DxfCollector &m_c;
     double m_tolerance;
     int m_expansions = 0;
@@ -188,6 +278,45 @@ bool DxfCollector::buildModelSpace(double toleranceMm, QPainterPath *out, QStrin
     return true;
 }
 
+bool DxfCollector::buildModelSpaceParts(double toleranceMm, QList<DxfPart> *out, QString *error)
+{
+    flushPending();
+    QList<DxfPart> parts;
+    int elements = 0;
+    DxfExpander expander(*this, toleranceMm / m_mmPerUnit);
+    if (!expander.expandParts(m_model, QTransform(), 0, nullptr, parts, elements)) {
+        *error = QCoreApplication::translate("DxfImport", "DXF 图形过于复杂");
+        return false;
+    }
+    *out = parts;
+    return true;
+}
+
+int DxfCollector::currentKey()
+{
+    const DL_Attributes &a = getAttributes();
+    const DxfKey key{QString::fromStdString(a.getLayer()), a.getColor()};
+    const int i = m_keys.indexOf(key);
+    if (i >= 0)
+        return i;
+    m_keys.append(key);
+    return m_keys.size() - 1;
+}
+
+void DxfCollector::mark(DxfBlock *block, int key)
+{
+    const int at = block->path.elementCount();
+    if (!block->marks.isEmpty() && block->marks.last().first == at)
+        block->marks.last().second = key; // the previous entity added nothing
+    else if (block->marks.isEmpty() || block->marks.last().second != key)
+        block->marks.append(qMakePair(at, key));
+}
+
+void DxfCollector::addLayer(const DL_LayerData &data)
+{
+    m_layerColours.insert(QString::fromStdString(data.name).toUpper(), getAttributes().getColor());
+}
+
 DxfBlock *DxfCollector::target()
 {
     if (m_inBlock)
@@ -201,6 +330,38 @@ bool DxfCollector::extrusionDown()
 {
     const DL_Extrusion *e = getExtrusion();
     return e && e->getDirection() && e->getDirection()[2] < 0;
+}
+
+QTransform DxfCollector::ocsToWorld(double elevation)
+{
+    const DL_Extrusion *e = getExtrusion();
+    if (!e || !e->getDirection())
+        return QTransform();
+    const double *d = e->getDirection();
+    const double len = std::sqrt(d[0] * d[0] + d[1] * d[1] + d[2] * d[2]);
+    if (!finite(d[0], d[1], d[2]) || !(len > 1e-12))
+        return QTransform();
+    const double n[3] = {d[0] / len, d[1] / len, d[2] / len};
+    if (n[0] == 0 && n[1] == 0)
+        return n[2] > 0 ? QTransform() : kMirrorX;
+    // Arbitrary axis algorithm: Ax = Wy x N near the poles, else Wz x N; Ay = N x Ax.
+    double ax[3];
+    if (std::abs(n[0]) < 1.0 / 64 && std::abs(n[1]) < 1.0 / 64) {
+        ax[0] = n[2];
+        ax[1] = 0;
+        ax[2] = -n[0];
+    } else {
+        ax[0] = -n[1];
+        ax[1] = n[0];
+        ax[2] = 0;
+    }
+    const double al = std::sqrt(ax[0] * ax[0] + ax[1] * ax[1] + ax[2] * ax[2]);
+    for (double &v : ax)
+        v /= al;
+    const double ay[3] = {n[1] * ax[2] - n[2] * ax[1], n[2] * ax[0] - n[0] * ax[2],
+                          n[0] * ax[1] - n[1] * ax[0]};
+    const double z = finite(elevation) ? elevation : 0.0;
+    return QTransform(ax[0], ax[1], ay[0], ay[1], z * n[0], z * n[1]);
 }
 
 void DxfCollector::flushPending()
@@ -219,7 +380,9 @@ void DxfCollector::flushPending()
                 local.closeSubpath();
             }
             if (local.elementCount() > 1)
-                to->path.addPath(m_polyline.mirrored ? kMirrorX.map(local) : local);
+                mark(to, m_polylineKey);
+            if (local.elementCount() > 1)
+                to->path.addPath(m_polyline.ocs.isIdentity() ? local : m_polyline.ocs.map(local));
         }
         m_polyline = PendingPolyline();
     }
@@ -249,6 +412,7 @@ void DxfCollector::addLine(const DL_LineData &d)
     DxfBlock *to = target();
     if (!to || !finite(d.x1, d.y1, d.x2, d.y2))
         return;
+    mark(to, currentKey());
     to->path.moveTo(d.x1, d.y1);
     to->path.lineTo(d.x2, d.y2);
 }
@@ -265,7 +429,9 @@ void DxfCollector::addArc(const DL_ArcData &d)
     QPainterPath local;
     local.moveTo(ellipsePoint(c, d.radius, d.radius, 0, a1));
     appendEllipticArc(local, c, d.radius, d.radius, 0, a1, sweep);
-    to->path.addPath(extrusionDown() ? kMirrorX.map(local) : local);
+    const QTransform ocs = ocsToWorld(d.cz);
+    mark(to, currentKey());
+    to->path.addPath(ocs.isIdentity() ? local : ocs.map(local));
 }
 
 void DxfCollector::addCircle(const DL_CircleData &d)
@@ -274,6 +440,17 @@ void DxfCollector::addCircle(const DL_CircleData &d)
     DxfBlock *to = target();
     if (!to || !finite(d.cx, d.cy, d.radius) || !(d.radius > 0))
         return;
+    const QTransform ocs = ocsToWorld(d.cz);
+    mark(to, currentKey());
+    if (!ocs.isIdentity() && ocs != kMirrorX) {
+        // A tilted circle is seen as an ellipse.
+        QPainterPath local;
+        local.moveTo(d.cx + d.radius, d.cy);
+        appendEllipticArc(local, QPointF(d.cx, d.cy), d.radius, d.radius, 0, 0, 2 * kPi);
+        local.closeSubpath();
+        to->path.addPath(ocs.map(local));
+        return;
+    }
     const QPointF c(extrusionDown() ? -d.cx : d.cx, d.cy);
     to->path.moveTo(c.x() + d.radius, c.y());
     appendEllipticArc(to->path, c, d.radius, d.radius, 0, 0, 2 * kPi);
@@ -290,10 +467,29 @@ void DxfCollector::addEllipse(const DL_EllipseData &d)
     if (!(rx > 0))
         return;
     const double ry = rx * d.ratio;
+    mark(to, currentKey());
     const double phi = std::atan2(d.my, d.mx);
     const QPointF c(d.cx, d.cy);
     double start = d.angle1;
     double sweep = ccwSweep(d.angle1, d.angle2, 2 * kPi);
+    const DL_Extrusion *e = getExtrusion();
+    const double *n = e ? e->getDirection() : nullptr;
+    if (n && finite(n[0], n[1], n[2], d.mz) && (n[0] != 0 || n[1] != 0)) {
+        // Centre and major axis are world points; the minor axis is ratio * (N x major)
+        // normalised to N. Seen from above, the unit circle maps onto the ellipse.
+        const double len = std::sqrt(n[0] * n[0] + n[1] * n[1] + n[2] * n[2]);
+        const double nx = n[0] / len, ny = n[1] / len, nz = n[2] / len;
+        const double minorX = d.ratio * (ny * d.mz - nz * d.my);
+        const double minorY = d.ratio * (nz * d.mx - nx * d.mz);
+        const QTransform onto(d.mx, d.my, minorX, minorY, d.cx, d.cy);
+        QPainterPath local;
+        local.moveTo(ellipsePoint(QPointF(), 1, 1, 0, start));
+        appendEllipticArc(local, QPointF(), 1, 1, 0, start, sweep);
+        if (std::abs(sweep - 2 * kPi) < 1e-9)
+            local.closeSubpath();
+        to->path.addPath(onto.map(local));
+        return;
+    }
     if (extrusionDown()) {
         // The minor axis points the other way: the same arc runs at negated parameters.
         start = -start;
@@ -313,8 +509,10 @@ void DxfCollector::addPolyline(const DL_PolylineData &d)
         return;
     m_hasPolyline = true;
     m_polylineTarget = target();
+    m_polylineKey = currentKey();
     m_polyline.closed = d.flags & 1;
-    m_polyline.mirrored = !(d.flags & 8) && extrusionDown();
+    // 3D polylines have world vertices; the others lie in their object coordinate system.
+    m_polyline.ocs = (d.flags & 8) ? QTransform() : ocsToWorld(d.elevation);
 }
 
 void DxfCollector::addVertex(const DL_VertexData &d)
@@ -330,6 +528,7 @@ void DxfCollector::addSpline(const DL_SplineData &d)
     flushPending();
     m_hasSpline = true;
     m_splineTarget = target();
+    m_spline.key = currentKey();
     m_spline.curve.degree = int(d.degree);
     m_spline.closed = d.flags & 1;
 }
@@ -361,6 +560,7 @@ void DxfCollector::addInsert(const DL_InsertData &d)
     if (!to || !finite(d.ipx, d.ipy, d.sx, d.sy, d.angle, d.colSp, d.rowSp))
         return;
     DxfInsert ins;
+    ins.key = currentKey();
     ins.block = QString::fromStdString(d.name).toUpper();
     ins.at = QPointF(d.ipx, d.ipy);
     ins.scaleX = d.sx;
@@ -370,7 +570,7 @@ void DxfCollector::addInsert(const DL_InsertData &d)
     ins.rows = std::max(1, std::min(d.rows, kMaxArray));
     ins.columnSpacing = d.colSp;
     ins.rowSpacing = d.rowSp;
-    ins.mirrored = extrusionDown();
+    ins.ocs = ocsToWorld(d.ipz);
     to->inserts.append(ins);
 }
 

@@ -7,23 +7,42 @@
 #include <QHash>
 #include <QPainterPath>
 #include <QString>
+#include <QTransform>
 #include <QVector>
 #include <dxflib/dl_creationadapter.h>
 
 namespace lumitra {
 
+// Where an entity came from: its layer and its colour (ACI; 256 by layer, 0 by block).
+struct DxfKey
+{
+    QString layer;
+    int colour = 256;
+    bool operator==(const DxfKey &o) const { return layer == o.layer && colour == o.colour; }
+};
+
+// Geometry of one layer and resolved colour of the drawing (drawing units, y up).
+struct DxfPart
+{
+    QString layer;
+    int colour = 7; // ACI 1..255
+    QPainterPath path;
+};
+
 struct DxfInsert
 {
+    int key = 0;
     QString block; // upper-case name
     QPointF at;
     double scaleX = 1, scaleY = 1, angleDegrees = 0;
     int columns = 1, rows = 1;
     double columnSpacing = 0, rowSpacing = 0;
-    bool mirrored = false; // extrusion pointing down: the block lies mirrored in x
+    QTransform ocs; // object coordinate system to world x, y (identity for +Z)
 };
 
 struct DxfSpline
 {
+    int key = 0;
     NurbsCurve curve;
     QVector<QPointF> fitPoints;
     bool closed = false;
@@ -33,6 +52,8 @@ struct DxfBlock
 {
     QPointF base;
     QPainterPath path; // lines, polylines and arcs (arcs as cubic segments)
+    // Where each entity's elements start in `path`, with the entity's key.
+    QVector<QPair<int, int>> marks;
     QVector<DxfSpline> splines;
     QVector<DxfInsert> inserts;
 };
@@ -50,6 +71,12 @@ public:
     // a fixed depth), splines flattened to within `toleranceMm`. False when the result
     // would exceed the element budget; *error then says why.
     bool buildModelSpace(double toleranceMm, QPainterPath *out, QString *error);
+    // The same drawing split by layer and colour (by-layer colours from the layer table,
+    // by-block colours and layer "0" inside blocks from the insert), in order of first
+    // appearance.
+    bool buildModelSpaceParts(double toleranceMm, QList<DxfPart> *out, QString *error);
+
+    void addLayer(const DL_LayerData &data) override;
 
     void addPoint(const DL_PointData &) override;
     void addLine(const DL_LineData &data) override;
@@ -76,7 +103,7 @@ private:
         QVector<QPointF> points;
         QVector<double> bulges;
         bool closed = false;
-        bool mirrored = false;
+        QTransform ocs;
     };
 
     QHash<QString, DxfBlock> m_blocks;
@@ -91,12 +118,23 @@ private:
     DxfBlock *m_splineTarget = nullptr;
     double m_mmPerUnit = 1.0;
     int m_unitsCode = 0;
+    QVector<DxfKey> m_keys;
+    QHash<QString, int> m_layerColours;
+    int m_polylineKey = 0;
+
+    // The key of the entity being reported, as an index into m_keys.
+    int currentKey();
+    // Records that the entity with `key` starts at the end of the block's path.
+    static void mark(DxfBlock *block, int key);
 
     // Finishes a polyline or spline whose vertices were still arriving.
     void flushPending();
     // The container of the entity being reported, or nullptr for paper space.
     DxfBlock *target();
     bool extrusionDown();
+    // The entity's object coordinate system (arbitrary axis algorithm) seen from above:
+    // OCS x, y at `elevation` to world x, y. The identity for an extrusion of +Z.
+    QTransform ocsToWorld(double elevation);
 
     friend class DxfExpander;
 };

@@ -87,8 +87,13 @@ bool readDxfForParser(const QString &path, std::string *text, QString *error)
         *error = QCoreApplication::translate("DxfImport", "DXF 文件已损坏");
         return false;
     };
+    // Binary DXF opens with this sentinel; the parser reads only the text form.
+    if (data.startsWith("AutoCAD Binary DXF")) {
+        *error = QCoreApplication::translate("DxfImport", "不支持二进制 DXF 文件");
+        return false;
+    }
     if (data.contains('\0'))
-        return damaged(); // binary DXF or not a drawing at all
+        return damaged(); // not a drawing at all
 
     text->clear();
     text->reserve(size_t(data.size()));

@@ -26,6 +26,7 @@ QPainterPath Jk_dxf::dxf_jie_xi(QString path)
 {
     m_error.clear();
     m_mmPerUnit = 1.0;
+    m_parts.clear();
     const QFileInfo info(path);
     if (!info.isFile() || !info.isReadable()) {
         m_error = tr("无法打开文件") + QStringLiteral(": ") + path;
@@ -66,7 +67,16 @@ QPainterPath Jk_dxf::dxf_jie_xi(QString path)
             m_error = tr("DXF 坐标超出范围");
             return QPainterPath();
         }
-    if (mm.elementCount() < 2)
+    if (mm.elementCount() < 2) {
         m_error = tr("DXF 文件中没有可导入的图形");
+        return mm;
+    }
+    if (m_collectParts) {
+        QString error;
+        if (collector.buildModelSpaceParts(kSplineToleranceMm, &m_parts, &error))
+            for (lumitra::DxfPart &p : m_parts)
+                if (m_mmPerUnit != 1.0)
+                    p.path = QTransform::fromScale(m_mmPerUnit, m_mmPerUnit).map(p.path);
+    }
     return mm;
 }

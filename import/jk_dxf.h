@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <QString>
 
+#include "dxf_collector.h"
+
 // Reads LINE, LWPOLYLINE and POLYLINE (with bulges), CIRCLE, ARC, ELLIPSE and SPLINE
 // (flattened to within 0.01 mm); INSERT expands its block with scale, rotation, arrays and
 // nesting; POINT, text, dimensions and hatches are ignored, as is paper space. Coordinates
@@ -29,7 +31,14 @@ public:
     // Millimetres per drawing unit used by the last read.
     double millimetresPerUnit() const { return m_mmPerUnit; }
 
+    // Asked for before dxf_jie_xi: the drawing also split by layer and colour (see
+    // DxfCollector::buildModelSpaceParts), in millimetres, y up.
+    void setCollectParts(bool on) { m_collectParts = on; }
+    const QList<lumitra::DxfPart> &parts() const { return m_parts; }
+
 private:
+    bool m_collectParts = false;
+    QList<lumitra::DxfPart> m_parts;
     QString m_error;
     double m_mmPerUnit = 1.0;
 };

@@ -81,6 +81,8 @@ double unitToMm(const QString &unit)
         return 25.4 / 72.0;
     if (unit == QLatin1String("pc"))
         return 25.4 / 6.0;
+    if (unit == QLatin1String("Q"))
+        return 0.25;
     return 0.0;
 }
 
@@ -100,10 +102,10 @@ struct ViewBox
     bool valid = false;
 };
 
-ViewBox readViewBox(const QDomElement &e)
+ViewBox readViewBox(const QString &text)
 {
     ViewBox vb;
-    SvgNumberScanner in(e.attribute(QStringLiteral("viewBox")));
+    SvgNumberScanner in(text);
     if (in.readNumber(&vb.x) && in.readNumber(&vb.y) && in.readNumber(&vb.w)
         && in.readNumber(&vb.h))
         vb.valid = vb.w > 0 && vb.h > 0;
@@ -168,26 +170,61 @@ bool svgLengthToMm(const QString &text, double *mm)
     return true;
 }
 
-double svgCoordinate(const QDomElement &element, const QString &name, double fallback)
+bool svgLengthToUser(const QString &text, SvgAxis axis, const SvgLengthContext &c, double *user)
 {
-    if (!element.hasAttribute(name))
-        return fallback;
     double v;
     QString unit;
-    if (!readLength(element.attribute(name), &v, &unit))
-        return fallback;
+    if (!readLength(text, &v, &unit))
+        return false;
     const double f = unitToMm(unit);
-    if (f == 0.0)
-        return unit == QLatin1String("%") ? fallback : v; // em and the like: taken as they are
-    return v * f / kMmPerPx;
+    if (f != 0.0) {
+        *user = v * f / kMmPerPx;
+        return true;
+    }
+    double per = 0.0;
+    if (unit == QLatin1String("em"))
+        per = c.fontSize;
+    else if (unit == QLatin1String("ex") || unit == QLatin1String("ch"))
+        per = c.fontSize / 2;
+    else if (unit == QLatin1String("rem"))
+        per = c.rootFontSize;
+    else if (unit == QLatin1String("%"))
+        per =
+            axis == SvgAxis::X ? c.viewportWidth / 100
+            : axis == SvgAxis::Y
+                ? c.viewportHeight / 100
+                : std::sqrt(
+                      (c.viewportWidth * c.viewportWidth + c.viewportHeight * c.viewportHeight) / 2)
+                      / 100;
+    else if (unit == QLatin1String("vw"))
+        per = c.rootWidthPx / 100;
+    else if (unit == QLatin1String("vh"))
+        per = c.rootHeightPx / 100;
+    else if (unit == QLatin1String("vmin"))
+        per = std::min(c.rootWidthPx, c.rootHeightPx) / 100;
+    else if (unit == QLatin1String("vmax"))
+        per = std::max(c.rootWidthPx, c.rootHeightPx) / 100;
+    else
+        return false;
+    *user = v * per;
+    return true;
 }
 
 QTransform svgRootToMm(const QDomElement &root)
 {
+    return svgRootToMm(root.attribute(QStringLiteral("width")),
+                       root.attribute(QStringLiteral("height")),
+                       root.attribute(QStringLiteral("viewBox")),
+                       root.attribute(QStringLiteral("preserveAspectRatio")));
+}
+
+QTransform svgRootToMm(const QString &width, const QString &height, const QString &viewBox,
+                       const QString &aspect)
+{
     double w = 0, h = 0;
-    const bool hasW = svgLengthToMm(root.attribute(QStringLiteral("width")), &w) && w > 0;
-    const bool hasH = svgLengthToMm(root.attribute(QStringLiteral("height")), &h) && h > 0;
-    const ViewBox vb = readViewBox(root);
+    const bool hasW = svgLengthToMm(width, &w) && w > 0;
+    const bool hasH = svgLengthToMm(height, &h) && h > 0;
+    const ViewBox vb = readViewBox(viewBox);
     if (!vb.valid)
         return QTransform::fromScale(kMmPerPx, kMmPerPx);
     if (!hasW && !hasH)
@@ -196,19 +233,30 @@ QTransform svgRootToMm(const QDomElement &root)
         w = vb.w * h / vb.h;
     if (!hasH)
         h = vb.h * w / vb.w;
-    return fitViewBox(vb, w, h, root.attribute(QStringLiteral("preserveAspectRatio")));
+    return fitViewBox(vb, w, h, aspect);
 }
 
-QTransform svgNestedViewport(const QDomElement &svg)
+bool svgViewBox(const QString &text, QRectF *box)
 {
-    const QTransform place = QTransform::fromTranslate(svgCoordinate(svg, QStringLiteral("x")),
-                                                       svgCoordinate(svg, QStringLiteral("y")));
-    const ViewBox vb = readViewBox(svg);
-    const double w = svgCoordinate(svg, QStringLiteral("width"), -1);
-    const double h = svgCoordinate(svg, QStringLiteral("height"), -1);
-    if (!vb.valid || w <= 0 || h <= 0)
+    const ViewBox vb = readViewBox(text);
+    if (vb.valid)
+        *box = QRectF(vb.x, vb.y, vb.w, vb.h);
+    return vb.valid;
+}
+
+QTransform svgViewportTransform(double x, double y, double w, double h, const QRectF &viewBox,
+                                const QString &aspect)
+{
+    const QTransform place = QTransform::fromTranslate(x, y);
+    if (!viewBox.isValid() || !(w > 0) || !(h > 0))
         return place;
-    return fitViewBox(vb, w, h, svg.attribute(QStringLiteral("preserveAspectRatio"))) * place;
+    ViewBox vb;
+    vb.x = viewBox.x();
+    vb.y = viewBox.y();
+    vb.w = viewBox.width();
+    vb.h = viewBox.height();
+    vb.valid = true;
+    return fitViewBox(vb, w, h, aspect) * place;
 }
 
 } // namespace lumitra

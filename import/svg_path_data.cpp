@@ -174,6 +174,11 @@ QPainterPath parseSvgPathData(const QString &d, bool *complete)
                 ok = false;
                 break;
             }
+            // Path data must open with a move; anything else is in error from the start.
+            if (command == 0 && upper != 'M') {
+                ok = false;
+                break;
+            }
             command = c;
             in.advance();
             if (upper == 'Z') {

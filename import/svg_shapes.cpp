@@ -1,29 +1,75 @@
-// Conversion of one SVG shape element into a path in its own user units.
-#include "svg_geometry_attributes.h"
+#include "svg_shapes.h"
+
 #include "svg_numbers.h"
 #include "svg_path_data.h"
-#include "svg_reader.h"
 
-#include <QDomElement>
 #include <cmath>
 
 namespace lumitra {
 
-namespace {
-
-double attr(const QDomElement &e, const char *name, double fallback = 0.0)
+SvgAttributeNames::SvgAttributeNames(const SvgDocument &doc)
 {
-    return svgCoordinate(e, QLatin1String(name), fallback);
+    auto id = [&doc](const char *name) { return doc.nameId(QString::fromLatin1(name)); };
+    d = id("d");
+    x = id("x");
+    y = id("y");
+    width = id("width");
+    height = id("height");
+    rx = id("rx");
+    ry = id("ry");
+    cx = id("cx");
+    cy = id("cy");
+    r = id("r");
+    x1 = id("x1");
+    y1 = id("y1");
+    x2 = id("x2");
+    y2 = id("y2");
+    points = id("points");
+    transform = id("transform");
+    style = id("style");
+    display = id("display");
+    visibility = id("visibility");
+    fontSize = id("font-size");
+    this->id = id("id");
+    href = id("href");
+    xlinkHref = id("xlink:href");
+    viewBox = id("viewBox");
+    preserveAspectRatio = id("preserveAspectRatio");
+    requiredFeatures = id("requiredFeatures");
+    requiredExtensions = id("requiredExtensions");
+    systemLanguage = id("systemLanguage");
+    xmlns = id("xmlns");
+    fill = id("fill");
+    stroke = id("stroke");
 }
 
-QPainterPath rectPath(const QDomElement &e)
+namespace {
+
+struct Reader
+{
+    const SvgDocument &doc;
+    int node;
+    const SvgLengthContext &lengths;
+
+    double length(int name, SvgAxis axis, double fallback = 0.0) const
+    {
+        QString text;
+        double v;
+        if (!doc.attribute(node, name, &text) || !svgLengthToUser(text, axis, lengths, &v))
+            return fallback;
+        return v;
+    }
+};
+
+QPainterPath rectPath(const Reader &in, const SvgAttributeNames &n)
 {
     QPainterPath path;
-    const QRectF r(attr(e, "x"), attr(e, "y"), attr(e, "width"), attr(e, "height"));
+    const QRectF r(in.length(n.x, SvgAxis::X), in.length(n.y, SvgAxis::Y),
+                   in.length(n.width, SvgAxis::X), in.length(n.height, SvgAxis::Y));
     if (!(r.width() > 0 && r.height() > 0))
         return path;
     // A missing corner radius takes the other one; both are limited to half the side.
-    double rx = attr(e, "rx", -1), ry = attr(e, "ry", -1);
+    double rx = in.length(n.rx, SvgAxis::X, -1), ry = in.length(n.ry, SvgAxis::Y, -1);
     if (rx < 0)
         rx = ry;
     if (ry < 0)
@@ -50,10 +96,12 @@ QPainterPath ellipsePath(double cx, double cy, double rx, double ry)
     return path;
 }
 
-QPainterPath polyPath(const QDomElement &e, bool close)
+QPainterPath polyPath(const Reader &in, int pointsName, bool close)
 {
     QPainterPath path;
-    const QVector<double> v = splitCoordinateList(e.attribute(QStringLiteral("points")));
+    QString text;
+    in.doc.attribute(in.node, pointsName, &text);
+    const QVector<double> v = splitCoordinateList(text);
     if (v.size() < 2)
         return path;
     path.moveTo(v[0], v[1]);
@@ -66,28 +114,36 @@ QPainterPath polyPath(const QDomElement &e, bool close)
 
 } // namespace
 
-QPainterPath convertSvgElement(const QString &tag, const QDomElement &e)
+QPainterPath convertSvgShape(SvgShapeKind kind, const SvgDocument &doc, int node,
+                             const SvgAttributeNames &n, const SvgLengthContext &lengths)
 {
-    if (tag == QLatin1String("path"))
-        return parseSvgPathData(e.attribute(QStringLiteral("d")));
-    if (tag == QLatin1String("rect"))
-        return rectPath(e);
-    if (tag == QLatin1String("circle")) {
-        const double r = attr(e, "r");
-        return ellipsePath(attr(e, "cx"), attr(e, "cy"), r, r);
+    const Reader in{doc, node, lengths};
+    switch (kind) {
+    case SvgPath: {
+        QString d;
+        doc.attribute(node, n.d, &d);
+        return parseSvgPathData(d);
     }
-    if (tag == QLatin1String("ellipse"))
-        return ellipsePath(attr(e, "cx"), attr(e, "cy"), attr(e, "rx"), attr(e, "ry"));
-    if (tag == QLatin1String("line")) {
+    case SvgRect:
+        return rectPath(in, n);
+    case SvgCircle: {
+        const double r = in.length(n.r, SvgAxis::Other);
+        return ellipsePath(in.length(n.cx, SvgAxis::X), in.length(n.cy, SvgAxis::Y), r, r);
+    }
+    case SvgEllipse:
+        return ellipsePath(in.length(n.cx, SvgAxis::X), in.length(n.cy, SvgAxis::Y),
+                           in.length(n.rx, SvgAxis::X), in.length(n.ry, SvgAxis::Y));
+    case SvgLine: {
         QPainterPath path;
-        path.moveTo(attr(e, "x1"), attr(e, "y1"));
-        path.lineTo(attr(e, "x2"), attr(e, "y2"));
+        path.moveTo(in.length(n.x1, SvgAxis::X), in.length(n.y1, SvgAxis::Y));
+        path.lineTo(in.length(n.x2, SvgAxis::X), in.length(n.y2, SvgAxis::Y));
         return path;
     }
-    if (tag == QLatin1String("polygon"))
-        return polyPath(e, true);
-    if (tag == QLatin1String("polyline"))
-        return polyPath(e, false);
+    case SvgPolygon:
+        return polyPath(in, n.points, true);
+    case SvgPolyline:
+        return polyPath(in, n.points, false);
+    }
     return QPainterPath();
 }
 

@@ -157,6 +157,7 @@ int DesignPages::addPage(const QString &name)
     });
     connect(page->scene, &Jk_chang_jing::textEditRequested, this, &DesignPages::textEditRequested);
     connect(page->view, &Jk_shi_tu::filesDropped, this, &DesignPages::filesDropped);
+    connect(page->view, &Jk_shi_tu::filesDroppedAt, this, &DesignPages::filesDroppedAt);
     connect(page->view, &Jk_shi_tu::cursorMoved, this, &DesignPages::cursorMoved);
     m_pages.append(page);
     const int index = m_tabs->addTab(page->view, tabLabel(page->name));

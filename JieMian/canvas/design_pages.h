@@ -72,6 +72,7 @@ signals:
     void designChanged();
     void textEditRequested(Jk_tu_yuan *item);
     void filesDropped(const QStringList &paths);
+    void filesDroppedAt(const QStringList &paths, const QPointF &scenePos);
     void cursorMoved(const QPointF &scenePos);
     void pagesChanged();
 

@@ -2,6 +2,7 @@
 
 #include "design_pages.h"
 #include "jk_chang_jing.h"
+#include "jk_tu_yuan.h"
 #include "message_box.h"
 #include "open_dispatch.h"
 #include "program_state.h"
@@ -154,6 +155,18 @@ ProjectCommands::OpenOutcome ProjectCommands::open_project()
 
 ProjectCommands::OpenOutcome ProjectCommands::open_file(const QString &path)
 {
+    return openFile(path, std::nullopt);
+}
+
+ProjectCommands::OpenOutcome ProjectCommands::open_file_at(const QString &path,
+                                                           const QPointF &scenePos)
+{
+    return openFile(path, scenePos);
+}
+
+ProjectCommands::OpenOutcome ProjectCommands::openFile(const QString &path,
+                                                       std::optional<QPointF> dropAt)
+{
     if (refuseWhileEngraving())
         return OpenOutcome::Refused;
     const QString shown = QDir::toNativeSeparators(path);
@@ -185,7 +198,21 @@ ProjectCommands::OpenOutcome ProjectCommands::open_file(const QString &path)
             message.isEmpty() ? tr("文件无法导入,里面没有可用的图形: %1").arg(shown) : message);
         return OpenOutcome::Failed;
     }
+    if (dropAt) {
+        // The drawing's centre goes to the drop point; its items keep their places in it.
+        QRectF box;
+        for (const Jk_tu_yuan *item : items) {
+            const QRectF r = item->sceneTransform().map(item->path).boundingRect();
+            box = box.isNull() ? r : box.united(r);
+        }
+        const QPointF move = *dropAt - box.center();
+        for (Jk_tu_yuan *item : items)
+            item->setPos(item->pos() + move);
+    }
     m_pages->currentScene()->addItemsUndoable(items);
+    // Something was left out of what came in: the importer says what.
+    if (!message.isEmpty())
+        lumitra::show_notice(m_dialogParent, message);
     return opened(path, OpenOutcome::Opened);
 }
 
@@ -234,5 +261,12 @@ void ProjectCommands::open_files(const QStringList &paths)
 {
     for (const QString &path : paths)
         if (open_file(path) == OpenOutcome::Refused)
+            return;
+}
+
+void ProjectCommands::open_files_at(const QStringList &paths, const QPointF &scenePos)
+{
+    for (const QString &path : paths)
+        if (open_file_at(path, scenePos) == OpenOutcome::Refused)
             return;
 }

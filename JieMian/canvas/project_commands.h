@@ -3,6 +3,7 @@
 #include "project_file.h"
 
 #include <QObject>
+#include <QPointF>
 #include <functional>
 #include <optional>
 
@@ -64,8 +65,12 @@ public slots:
     OpenOutcome open_project();
     // Opens one file by its extension onto the current page.
     OpenOutcome open_file(const QString &path);
+    // The same, imported items centred on `scenePos` (where they were dropped).
+    OpenOutcome open_file_at(const QString &path, const QPointF &scenePos);
     // Opens each file in turn (drag and drop).
     void open_files(const QStringList &paths);
+    // Opens each file in turn, imports landing where they were dropped (scene point).
+    void open_files_at(const QStringList &paths, const QPointF &scenePos);
 
 signals:
     void currentPathChanged(const QString &path);
@@ -77,6 +82,7 @@ private:
     // The save refusals (engraving, empty design), told to the user.
     std::optional<SaveOutcome> refuseSave();
     OpenOutcome openProjectFile(const QString &path);
+    OpenOutcome openFile(const QString &path, std::optional<QPointF> dropAt);
     OpenOutcome opened(const QString &path, OpenOutcome outcome);
     SaveOutcome writeProject(const QString &path);
 

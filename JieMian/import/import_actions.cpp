@@ -1,11 +1,27 @@
 #include "import_actions.h"
 
+#include "colour_layers.h"
 #include "import_items.h"
 #include "jk_tu_yuan.h"
 #include "message_box.h"
 #include "moshiyulan.h"
 
-ImportActions::ImportActions(QWidget *window) : QObject(window), m_window(window) {}
+#include <QAction>
+
+ImportActions::ImportActions(QWidget *window)
+    : QObject(window), m_window(window), m_colourLayers(new QAction(tr("按颜色分图层"), this))
+{
+    m_colourLayers->setObjectName(QStringLiteral("colourLayers_Act"));
+    m_colourLayers->setCheckable(true);
+    m_colourLayers->setChecked(lumitra::colourLayersEnabled());
+    m_colourLayers->setToolTip(tr("导入时每种颜色放到单独的图层"));
+    connect(m_colourLayers, &QAction::toggled, this, &lumitra::setColourLayersEnabled);
+}
+
+QList<QAction *> ImportActions::actions() const
+{
+    return {m_colourLayers};
+}
 
 const Jk_tu_yuan *ImportActions::bitmapOrSay(const QList<QGraphicsItem *> &selected) const
 {

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 
+class QAction;
 class QGraphicsItem;
 class QWidget;
 class Jk_tu_yuan;
@@ -28,6 +29,12 @@ public:
     // tracing found no outline.
     bool traceSelection(const QList<QGraphicsItem *> &selected);
 
+    // The import option "colours to layers" (checkable; its state is the remembered
+    // setting, read by the SVG importer). Owned by this object.
+    QAction *colourLayersAction() const { return m_colourLayers; }
+    // Every action of this object, for the window's menus.
+    QList<QAction *> actions() const;
+
 signals:
     // New items, not yet in a scene, for the window's undoable add.
     void itemsCreated(const QList<Jk_tu_yuan *> &items);
@@ -36,4 +43,5 @@ private:
     const Jk_tu_yuan *bitmapOrSay(const QList<QGraphicsItem *> &selected) const;
 
     QWidget *m_window;
+    QAction *m_colourLayers;
 };

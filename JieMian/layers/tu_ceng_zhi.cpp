@@ -83,6 +83,7 @@ Tu_Ceng_Zhi::Tu_Ceng_Zhi(QWidget *parent) : QWidget(parent), ui(new Ui::Tu_Ceng_
     bindCheck(ui->shuchu_Box, LayerField::Output, &TuCeng::shuchu);
     bindCheck(ui->xianshi_Box, LayerField::Show, &TuCeng::xianshi);
     bindCheck(ui->danxaing_Box, LayerField::SingleDirection, &TuCeng::danxiang);
+    bindCheck(ui->jingxi_Box, LayerField::FineCurves, &TuCeng::jingxi);
     connect(ui->confirm_Btn, &QPushButton::clicked, this, [this] {
         emit confirmed();
         if (isWindow())
@@ -127,6 +128,7 @@ void Tu_Ceng_Zhi::setLayer(TuCeng *layer)
     showValue(ui->saomiao_Box, layer->saomiao);
     showValue(ui->cishu_Box, layer->cishu);
     ui->danxaing_Box->setChecked(layer->danxiang);
+    ui->jingxi_Box->setChecked(layer->jingxi);
     showValue(ui->sudu_Box, layer->sudu);
     showValue(ui->gonglv_Box, layer->gonglv);
     ui->shuchu_Box->setChecked(layer->shuchu);

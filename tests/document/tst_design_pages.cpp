@@ -445,6 +445,17 @@ private slots:
         });
         QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("a.svg"))), Open::Failed);
         QCOMPARE(m_messages, QStringList{QStringLiteral("too big")});
+        // A notice that comes with items is shown once they are in the design.
+        m_messages.clear();
+        dispatch.registerImporter(QStringLiteral("svg"), [](const QString &, QString *message) {
+            *message = QStringLiteral("2 texts left out");
+            QPainterPath p;
+            p.addRect(0, 0, 5, 5);
+            return QList<Jk_tu_yuan *>{new Jk_tu_yuan(p, 0)};
+        });
+        QCOMPARE(commands.open_file(m_dir.filePath(QStringLiteral("a.svg"))), Open::Opened);
+        QCOMPARE(m_messages, QStringList{QStringLiteral("2 texts left out")});
+        QCOMPARE(pages.currentScene()->designItemCount(), 1);
 
         dispatch.unregisterImporter(QStringLiteral("svg"));
         QCOMPARE(dispatch.kindOf(QStringLiteral("drawing.svg")), OpenKind::Unsupported);
@@ -472,6 +483,40 @@ private slots:
         QApplication::sendEvent(canvas, &drop);
         QCOMPARE(pages.currentScene()->designItemCount(), 2);
         QCOMPARE(pages.currentUndoStack()->count(), 2);
+    }
+
+    // Dropped imports land centred where they were dropped; opened ones centre on the work
+    // area as before.
+    void droppedImportsLandWhereDropped()
+    {
+        DesignPages pages;
+        pages.resize(800, 600);
+        ProjectCommands commands(&pages, nullptr);
+        connect(&pages, &DesignPages::filesDroppedAt, &commands, &ProjectCommands::open_files_at);
+        const QString png = writeFile(QStringLiteral("drop.png"));
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(png)});
+        Jk_shi_tu *view = pages.currentView();
+        const QPoint at(120, 90);
+        QDragEnterEvent enter(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &drop);
+        QCOMPARE(pages.currentScene()->designItemCount(), 1);
+        const Jk_tu_yuan *item = pages.currentScene()->designItems().first();
+        const QPointF centre = item->sceneTransform().map(item->path).boundingRect().center();
+        const QPointF expected = view->mapToScene(at);
+        QVERIFY2(QLineF(centre, expected).length() < 1e-6,
+                 qPrintable(QStringLiteral("%1,%2").arg(centre.x()).arg(centre.y())));
+
+        QCOMPARE(commands.open_file(png), Open::Opened);
+        const Jk_tu_yuan *opened = pages.currentScene()->designItems().first() == item
+                                       ? pages.currentScene()->designItems().last()
+                                       : pages.currentScene()->designItems().first();
+        const QPointF openedCentre =
+            opened->sceneTransform().map(opened->path).boundingRect().center();
+        QVERIFY(QLineF(openedCentre, expected).length() > 1);
     }
 };
 

@@ -390,8 +390,13 @@ private slots:
         QVERIFY(!child<QCheckBox>(panel, "shuchu_Box")->isChecked());
         QVERIFY(child<QCheckBox>(panel, "xianshi_Box")->isChecked());
         QVERIFY(!child<QCheckBox>(panel, "danxaing_Box")->isChecked());
+        QVERIFY(!child<QCheckBox>(panel, "jingxi_Box")->isChecked());
+        QCOMPARE(child<QCheckBox>(panel, "jingxi_Box")->text(), QStringLiteral("精细曲线"));
 
         QSignalSpy spy(&panel, &Tu_Ceng_Zhi::editRequested);
+        child<QCheckBox>(panel, "jingxi_Box")->setChecked(true);
+        QVERIFY(layer.jingxi);
+        QCOMPARE(spy.last().first().value<LayerEdit>().field, LayerField::FineCurves);
         child<QCheckBox>(panel, "danxaing_Box")->setChecked(true);
         child<QCheckBox>(panel, "shuchu_Box")->setChecked(true);
         child<QCheckBox>(panel, "xianshi_Box")->setChecked(false);
@@ -402,7 +407,7 @@ private slots:
         QVERIFY(layer.shuchu);
         QVERIFY(!layer.xianshi);
         QCOMPARE(layer.mingcheng, QStringLiteral("photo"));
-        QCOMPARE(spy.count(), 3 + 5);
+        QCOMPARE(spy.count(), 4 + 5);
     }
 
     // The panel and the row label the fifth bitmap mode differently.
@@ -865,6 +870,7 @@ private slots:
         QTest::newRow("shuchu") << "shuchu_Box" << 0.0;
         QTest::newRow("xianshi") << "xianshi_Box" << 0.0;
         QTest::newRow("danxaing") << "danxaing_Box" << 1.0;
+        QTest::newRow("jingxi") << "jingxi_Box" << 1.0;
         QTest::newRow("moshi") << "moshi_Box" << 2.0;
     }
     void panelFieldsAreUndoable()

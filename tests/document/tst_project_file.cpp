@@ -248,6 +248,35 @@ private slots:
         QVERIFY(loose.pages.first().layers.first().tupian);
     }
 
+    void fineCurvesSetting()
+    {
+        // A layer with fine curves carries one extra string after its record; a layer
+        // without writes exactly the bytes it always did.
+        TuCeng plain(3, false), fine(5, false);
+        fine.jingxi = true;
+        QList<ProjectPageOut> pages{ProjectPageOut()};
+        pages[0].name = QStringLiteral("p");
+        pages[0].layers = {&plain, &fine};
+        const QByteArray bytes = writeBytes(pages);
+        const QByteArray expected = stream([&](QDataStream &out) {
+            out << QStringLiteral("0001") << QStringLiteral("MY_SCENE") << QStringLiteral("p");
+            out << QStringLiteral("MY_CENG");
+            writeTuCeng(out, plain);
+            out << QStringLiteral("MY_CENG");
+            writeTuCeng(out, fine);
+            out << QStringLiteral("MY_CENG_EXT fine=1") << QStringLiteral("end");
+        });
+        QCOMPARE(bytes, expected);
+        const ProjectReadResult r = readBytes(bytes);
+        QVERIFY(r.complete);
+        QCOMPARE(r.pages.first().layers.size(), 2);
+        QVERIFY(!r.pages.first().layers[0].jingxi);
+        QVERIFY(r.pages.first().layers[1].jingxi);
+        // Copies keep it.
+        const TuCeng copy(r.pages.first().layers[1]);
+        QVERIFY(copy.jingxi);
+    }
+
     void failedSaveKeepsTheOldFile()
     {
 #ifdef Q_OS_UNIX
@@ -587,7 +616,8 @@ private slots:
     void layerExtrasUnknownKeysAndRanges()
     {
         TuCeng l(1, false);
-        QVERIFY(readLayerExtras(QStringLiteral("MY_CENG_EXT fine=1 kerf=0.2 order=7"), l));
+        QVERIFY(readLayerExtras(QStringLiteral("MY_CENG_EXT fine=1 kerf=0.2 order=7 new=3"), l));
+        QVERIFY(l.jingxi);
         QCOMPARE(l.kerf, 0.2);
         QCOMPARE(l.cutOrder, int(CutAsDrawn));
         QVERIFY(readLayerExtras(QStringLiteral("MY_CENG_EXT kerf=99 order=1"), l));

@@ -69,6 +69,10 @@ private slots:
     void curveSamplesEvenlySpaced_data();
     void curveSamplesEvenlySpaced();
     void curveSamplesCarryNoPowerOrFeed();
+    void fineSamplesStayWithinDeviation_data();
+    void fineSamplesStayWithinDeviation();
+    void fineCurvesLayer_data();
+    void fineCurvesLayer();
     void flushesRepeatAllWords();
     void matchesCompactedFullText();
     void rasterRowsInIncrementsLandExactly_data();
@@ -457,6 +461,125 @@ void TestPathEmitter::rasterRowsInIncrementsLandExactly()
     // Increments are short: the lines average under nine bytes.
     const int lines = job.count('\n');
     QVERIFY2(job.size() < lines * 9, qPrintable(QString::number(double(job.size()) / lines)));
+
+namespace {
+
+QPointF bezier(const QPointF &p0, const QPointF &c1, const QPointF &c2, const QPointF &p3, double u)
+{
+    const double v = 1 - u;
+    return v * v * v * p0 + 3 * v * v * u * c1 + 3 * v * u * u * c2 + u * u * u * p3;
+}
+
+double distanceToSegment(const QPointF &p, const QPointF &a, const QPointF &b)
+{
+    const QPointF d = b - a;
+    const double len2 = QPointF::dotProduct(d, d);
+    const double t = len2 > 0 ? qBound(0.0, QPointF::dotProduct(p - a, d) / len2, 1.0) : 0.0;
+    return QLineF(p, a + t * d).length();
+}
+
+// The G1 points of a job text.
+QVector<QPointF> burnPoints(const QByteArray &job)
+{
+    QVector<QPointF> points;
+    QPointF at;
+    for (const QByteArray &line : job.split('\n')) {
+        const QRegularExpression word(QStringLiteral("([XY])(-?[0-9.]+)"));
+        auto it = word.globalMatch(QString::fromLatin1(line));
+        bool moved = false;
+        while (it.hasNext()) {
+            const auto m = it.next();
+            (m.captured(1) == QLatin1String("X") ? at.rx() : at.ry()) = m.captured(2).toDouble();
+            moved = true;
+        }
+        if (moved)
+            points.append(at);
+    }
+    return points;
+}
+
+} // namespace
+
+void TestPathEmitter::fineSamplesStayWithinDeviation_data()
+{
+    QTest::addColumn<QPointF>("p0");
+    QTest::addColumn<QPointF>("c1");
+    QTest::addColumn<QPointF>("c2");
+    QTest::addColumn<QPointF>("p3");
+    // A quarter circle of radius r as a cubic has its controls at k r, k = 0.5523.
+    const double k = 0.5522847498;
+    const double r = 1.25;
+    QTest::newRow("quarter of a 1.25 mm circle")
+        << QPointF(r, 0) << QPointF(r, k * r) << QPointF(k * r, r) << QPointF(0, r);
+    QTest::newRow("s-curve") << QPointF(0, 0) << QPointF(10, 30) << QPointF(20, -30)
+                             << QPointF(30, 0);
+    QTest::newRow("large sweep") << QPointF(0, 0) << QPointF(0, 200) << QPointF(200, 200)
+                                 << QPointF(200, 0);
+    QTest::newRow("a straight cubic")
+        << QPointF(0, 0) << QPointF(1, 1) << QPointF(2, 2) << QPointF(3, 3);
+    QTest::newRow("a point") << QPointF(5, 5) << QPointF(5, 5) << QPointF(5, 5) << QPointF(5, 5);
+}
+
+void TestPathEmitter::fineSamplesStayWithinDeviation()
+{
+    QFETCH(QPointF, p0);
+    QFETCH(QPointF, c1);
+    QFETCH(QPointF, c2);
+    QFETCH(QPointF, p3);
+    QVector<QPointF> samples;
+    sampleCubicByDeviation(p0, c1, c2, p3, kFineCurveDeviation, samples);
+    QVERIFY(!samples.isEmpty());
+    QCOMPARE(samples.last(), p3);
+    samples.prepend(p0);
+    // Every point of the curve lies within the deviation of the chord over its parameter
+    // stretch (even steps of the parameter).
+    const int n = samples.size() - 1;
+    double worst = 0;
+    for (int i = 0; i < n; ++i)
+        for (int j = 0; j <= 16; ++j) {
+            const double u = (i + j / 16.0) / n;
+            worst = qMax(worst,
+                         distanceToSegment(bezier(p0, c1, c2, p3, u), samples[i], samples[i + 1]));
+        }
+    QVERIFY2(worst <= kFineCurveDeviation, qPrintable(QString::number(worst)));
+}
+
+void TestPathEmitter::fineCurvesLayer_data()
+{
+    QTest::addColumn<double>("radius");
+    QTest::addColumn<bool>("fine");
+    QTest::addColumn<double>("lowestSag");  // the largest chord sag must reach at least this
+    QTest::addColumn<double>("highestSag"); // and stay at or below this
+    // Chords of 0.8 mm on a 1.25 mm circle sag by 1.25 - sqrt(1.25^2 - 0.4^2) = 0.066 mm;
+    // fine ones stay within 0.01 mm plus the rounding of two decimals (0.005 * sqrt 2).
+    QTest::newRow("1.25 mm circle, default steps") << 1.25 << false << 0.05 << 0.07;
+    QTest::newRow("1.25 mm circle, fine") << 1.25 << true << 0.0 << 0.01 + 0.0071;
+    QTest::newRow("3 mm circle, fine") << 3.0 << true << 0.0 << 0.01 + 0.0071;
+}
+
+void TestPathEmitter::fineCurvesLayer()
+{
+    QFETCH(double, radius);
+    QFETCH(bool, fine);
+    QFETCH(double, lowestSag);
+    QFETCH(double, highestSag);
+    TuCeng l = layer(50, 1000);
+    l.jingxi = fine;
+    Rig rig(l);
+    const QPointF centre(20, -20);
+    QPainterPath circle;
+    circle.addEllipse(centre, radius, radius);
+    rig.emitter.emitPath(circle);
+    const QVector<QPointF> points = burnPoints(rig.finish());
+    QVERIFY(points.size() > 8);
+    // Machine y is the negated scene y.
+    const QPointF c(centre.x(), -centre.y());
+    double worst = 0;
+    for (int i = 0; i + 1 < points.size(); ++i) {
+        const QPointF mid = (points[i] + points[i + 1]) / 2;
+        worst = qMax(worst, radius - QLineF(c, mid).length());
+    }
+    QVERIFY2(worst >= lowestSag && worst <= highestSag, qPrintable(QString::number(worst)));
 }
 
 QTEST_GUILESS_MAIN(TestPathEmitter)

@@ -37,6 +37,11 @@ inline QString down(bool on)
 {
     return on ? g(210, 0.0) + g(220, 0.0) + g(230, -1.0) : QString();
 }
+// An extrusion direction (group codes 210, 220, 230).
+inline QString extrusion(double nx, double ny, double nz)
+{
+    return g(210, nx) + g(220, ny) + g(230, nz);
+}
 
 inline QString line(double x1, double y1, double x2, double y2)
 {

@@ -1,12 +1,15 @@
 // The DXF reader (each entity kind, bulges, object coordinate systems pointing down, units,
 // blocks, spline accuracy), then import results as design items: centred SVG drawings, the
 // mirrored DXF item through the undoable add, and the traced item lying over its bitmap.
+#include "colour_layers.h"
 #include "dxf_text.h"
 #include "import_items.h"
 #include "jk_chang_jing.h"
 #include "jk_dxf.h"
 #include "jk_tu_yuan.h"
+#include "layer_list.h"
 #include "program_state.h"
+#include "tu_ceng.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
@@ -84,6 +87,11 @@ private slots:
     void selfInsertingBlockEnds();
     void svgFileBecomesCentredItems_data();
     void svgFileBecomesCentredItems();
+    void svgImagesAndTexts();
+    void svgColoursToLayers_data();
+    void svgColoursToLayers();
+    void colourAssignment();
+    void dxfColoursToLayers();
     void dxfItemIsMirrored_data();
     void dxfItemIsMirrored();
     void dxfFileGoesThroughTheUndoableAdd();
@@ -146,6 +154,27 @@ void TestImportItems::entities_data()
     row("mirrored insert", sq, insert("SQ", 5, 0, -1, 1), {4, 0, 1, 1}, 1);
     row("insert with extrusion down", sq, insert("SQ", 5, 0, 1, 1, 0, 1, 1, 0, 0, true),
         {-6, 0, 1, 1}, 1);
+    // Object coordinate systems tilted away from Z, by the arbitrary axis algorithm: for
+    // N = (0, 0.6, 0.8) the OCS axes are Ax = (-1, 0, 0), Ay = (0, -0.8, 0.6), so seen from
+    // above x -> -x, y -> -0.8 y + 0.6 z; for N = (0.6, 0, 0.8) they are Ax = (0, 1, 0),
+    // Ay = (-0.8, 0, 0.6): x -> -0.8 y + 0.6 z, y -> x.
+    row("circle in a tilted OCS is an ellipse", none,
+        ent("CIRCLE") + xy(10, 10, 20) + extrusion(0, 0.6, 0.8) + g(40, 5.0), {-15, -20, 10, 8}, 1);
+    row("arc in a tilted OCS", none,
+        ent("ARC") + xy(10, 0, 0) + g(40, 10.0) + extrusion(0.6, 0, 0.8) + g(50, 0.0) + g(51, 90.0),
+        {-8, 0, 8, 10}, 1);
+    // The half circle below (0,0)-(10,0) at elevation 5: x in [-10, 0], y in [3, 7].
+    row("lwpolyline with a bulge and an elevation in a tilted OCS", none,
+        ent("LWPOLYLINE") + g(90, 2) + g(70, 0) + g(38, 5.0) + g(10, 0.0) + g(20, 0.0) + g(42, 1.0)
+            + g(10, 10.0) + g(20, 0.0) + extrusion(0, 0.6, 0.8),
+        {-10, 3, 10, 4}, 1);
+    // World centre and major axis (20, 0, 0); minor = 0.5 * N x major = (0, 8, -6).
+    row("ellipse in a tilted plane", none,
+        ent("ELLIPSE") + xy(10, 0, 0) + xy(11, 20, 0) + extrusion(0, 0.6, 0.8) + g(40, 0.5)
+            + g(41, 0.0) + g(42, 2 * M_PI),
+        {-20, -8, 40, 16}, 1);
+    row("insert in a tilted OCS", sq,
+        ent("INSERT") + g(2, "SQ") + xy(10, 5, 0) + extrusion(0, 0.6, 0.8), {-6, -0.8, 1, 0.8}, 1);
     row("block names ignore case", block("Part", 0, 0, square), insert("PART", 7, 7), {7, 7, 1, 1},
         1);
     row("missing block skipped", none, insert("NONE", 7, 7) + line(0, 0, 2, 2), {0, 0, 2, 2}, 1);
@@ -314,6 +343,184 @@ void TestImportItems::svgFileBecomesCentredItems()
     qDeleteAll(items);
 }
 
+void TestImportItems::svgImagesAndTexts()
+{
+    // A 10 x 5 mm rectangle at (0, 0), a 20 x 10 pixel image stretched over (30, 0)-(50, 20)
+    // (preserveAspectRatio none), and two texts; the union is 50 x 20.
+    programState().width = 400;
+    programState().height = 400;
+    QImage image(20, 10, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    QVERIFY(image.save(dir.filePath(QStringLiteral("pic.png"))));
+    const QString svg = dir.filePath(QStringLiteral("drawing.svg"));
+    QFile file(svg);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<svg xmlns='http://www.w3.org/2000/svg' width='100mm' height='100mm' "
+               "viewBox='0 0 100 100'><rect width='10' height='5'/>"
+               "<image x='30' width='20' height='20' preserveAspectRatio='none' "
+               "href='pic.png'/><text>a</text><text>b</text></svg>");
+    file.close();
+    QString message;
+    const QList<Jk_tu_yuan *> items = importSvgItems(svg, &message);
+    QCOMPARE(items.size(), 2);
+    QVERIFY(message.contains(QLatin1String("2")));
+    QCOMPARE(message, svgTextLeftOutNotice(2));
+    // The union's top-left goes to (200 - 25, 200 - 10 - 400).
+    const QPointF at(175, -210);
+    QVERIFY(!items[0]->is_bitmap);
+    QVERIFY2(near(sceneBox(items[0]), QRectF(at, QSizeF(10, 5)), 1e-4),
+             describe(sceneBox(items[0])));
+    QVERIFY(items[1]->is_bitmap);
+    QCOMPARE(items[1]->source_image.size(), QSize(20, 10));
+    QVERIFY2(near(sceneBox(items[1]), QRectF(at + QPointF(30, 0), QSizeF(20, 20)), 1e-4),
+             describe(sceneBox(items[1])));
+    QVERIFY(items[1]->isSelected());
+    qDeleteAll(items);
+}
+
+void TestImportItems::svgColoursToLayers_data()
+{
+    QTest::addColumn<bool>("option");
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QVector<int>>("layers"); // per item
+    QTest::addColumn<QStringList>("newNames");
+    const QString two = QStringLiteral("<rect stroke='#ff0000' fill='none' width='5' height='5'/>"
+                                       "<rect stroke='#0000fe' fill='none' width='5' height='5'/>"
+                                       "<rect style='stroke:red' width='1' height='1'/>");
+    // Palette layer 2 is pure red, layer 1 pure blue.
+    QTest::newRow("option off: the current layer")
+        << false << two << QVector<int>{7, 7, 7} << QStringList{};
+    QTest::newRow("two colours, each on its nearest layer")
+        << true << two << QVector<int>{2, 1, 2}
+        << QStringList{QStringLiteral("SVG #0000FE"), QStringLiteral("SVG #FF0000")};
+    QTest::newRow("one colour: the current layer")
+        << true
+        << QStringLiteral("<rect stroke='red' width='5' height='5'/><circle stroke='red' r='2'/>")
+        << QVector<int>{7, 7} << QStringList{};
+}
+
+void TestImportItems::svgColoursToLayers()
+{
+    QFETCH(bool, option);
+    QFETCH(QString, body);
+    QFETCH(QVector<int>, layers);
+    QFETCH(QStringList, newNames);
+    programState().currentLayer = 7;
+    LayerList::instance().clear();
+    setColourLayersEnabled(option);
+    QCOMPARE(colourLayersEnabled(), option);
+    const QString svg = m_dir.filePath(QStringLiteral("colours.svg"));
+    QFile file(svg);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(("<svg xmlns='http://www.w3.org/2000/svg' width='10mm' height='10mm' "
+                "viewBox='0 0 10 10'>"
+                + body + "</svg>")
+                   .toUtf8());
+    file.close();
+    const QList<Jk_tu_yuan *> items = importSvgItems(svg, nullptr);
+    QVector<int> got;
+    for (const Jk_tu_yuan *item : items)
+        got.append(item->layer_id);
+    QCOMPARE(got, layers);
+    QStringList names;
+    for (const TuCeng *l : LayerList::instance().layers())
+        names.append(l->mingcheng);
+    names.sort();
+    QCOMPARE(names, newNames);
+    qDeleteAll(items);
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
+}
+
+void TestImportItems::colourAssignment()
+{
+    // Exact palette colours take their own layers, whatever the order; a near colour takes
+    // the nearest layer still free.
+    const QRgb nearFive = layerColor(5).rgb() ^ 0x010101;
+    QCOMPARE(assignColourLayers({nearFive}), QVector<int>{5});
+    const QVector<int> three =
+        assignColourLayers({nearFive, layerColor(5).rgb(), layerColor(0).rgb()});
+    QCOMPARE(three[1], 5);
+    QCOMPARE(three[2], 0);
+    QVERIFY(three[0] != 5 && three[0] != 0);
+    QVector<QRgb> many;
+    for (int i = 0; i < 40; ++i)
+        many.append(qRgb(i * 6, 255 - i * 6, (i * 37) % 256));
+    const QVector<int> layers = assignColourLayers(many);
+    QCOMPARE(layers.size(), 40);
+    QSet<int> distinct;
+    for (int l : layers) {
+        QVERIFY(l >= 0 && l < kLayerCount);
+        distinct.insert(l);
+    }
+    QCOMPARE(distinct.size(), kLayerCount); // every layer used once the colours outnumber them
+    // AutoCAD colour index: the first ones by name, 7 drawn black, the greys at the end.
+    QCOMPARE(aciColour(1), qRgb(255, 0, 0));
+    QCOMPARE(aciColour(5), qRgb(0, 0, 255));
+    QCOMPARE(aciColour(7), qRgb(0, 0, 0));
+    QCOMPARE(aciColour(255), qRgb(255, 255, 255));
+    QCOMPARE(aciColour(10), qRgb(255, 0, 0));
+}
+
+void TestImportItems::dxfColoursToLayers()
+{
+    // Layer CUT is red (ACI 1) in the table; ENGRAVE has no table entry.
+    const QString tables = g(0, "SECTION") + g(2, "TABLES") + g(0, "TABLE") + g(2, "LAYER")
+                           + g(70, 1) + g(0, "LAYER") + g(2, "CUT") + g(70, 0) + g(62, 1)
+                           + g(6, "CONTINUOUS") + g(0, "ENDTAB") + g(0, "ENDSEC");
+    auto on = [](const char *layer, int colour) {
+        return g(8, layer) + (colour >= 0 ? g(62, colour) : QString());
+    };
+    const QString blocks = ent("BLOCK") + g(2, "MARKER") + g(70, 0) + xy(10, 0, 0) + g(3, "MARKER")
+                           + g(0, "LINE") + on("0", 0) + xy(10, 0, 0) + xy(11, 1, 0)
+                           + ent("ENDBLK");
+    const QString entities =
+        g(0, "LINE") + on("CUT", -1) + xy(10, 0, 0) + xy(11, 10, 0)        // CUT by layer
+        + g(0, "CIRCLE") + on("ENGRAVE", 5) + xy(10, 20, 20) + g(40, 2.0)  // blue
+        + g(0, "LINE") + on("CUT", 3) + xy(10, 0, 5) + xy(11, 10, 5)       // CUT, green
+        + g(0, "INSERT") + on("MARK", 6) + g(2, "MARKER") + xy(10, 30, 30) // by block
+        + g(0, "LINE") + on("CUT", 256) + xy(10, 0, 10) + xy(11, 10, 10);  // CUT again
+    QString text = file(entities, 4, blocks);
+    text.insert(text.indexOf(g(0, "SECTION") + g(2, "BLOCKS")), tables);
+    const QString path = put(text);
+
+    programState().currentLayer = 7;
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
+    QString message;
+    QList<Jk_tu_yuan *> items = importDxfItems(path, &message);
+    QCOMPARE(items.size(), 1);
+    const QRectF whole = sceneBox(items.first());
+    qDeleteAll(items);
+
+    setColourLayersEnabled(true);
+    items = importDxfItems(path, &message);
+    QCOMPARE(items.size(), 4);
+    QStringList names;
+    for (const TuCeng *l : LayerList::instance().layers())
+        names.append(l->mingcheng);
+    QCOMPARE(names, (QStringList{"DXF CUT ACI 1", "DXF ENGRAVE", "DXF CUT ACI 3", "DXF MARK"}));
+    // The red and blue groups take the palette's red and blue layers; all differ.
+    QCOMPARE(items[0]->layer_id, 2);
+    QCOMPARE(items[1]->layer_id, 1);
+    QSet<int> used;
+    QRectF together;
+    for (const Jk_tu_yuan *item : items) {
+        used.insert(item->layer_id);
+        together = together.isNull() ? sceneBox(item) : together.united(sceneBox(item));
+    }
+    QCOMPARE(used.size(), 4);
+    // The parts lie where the one item lay; the by-layer line of CUT came with the first.
+    QVERIFY2(near(together, whole, 1e-9), describe(together) + " vs " + describe(whole));
+    QVERIFY2(near(sceneBox(items[0]), QRectF(whole.left(), whole.bottom() - 10, 10, 10), 1e-9),
+             describe(sceneBox(items[0])));
+    qDeleteAll(items);
+    LayerList::instance().clear();
+    setColourLayersEnabled(false);
+}
+
 void TestImportItems::dxfItemIsMirrored_data()
 {
     QTest::addColumn<QRectF>("drawing");
@@ -371,6 +578,22 @@ void TestImportItems::dxfFailuresCarryAMessage()
         QVERIFY(importDxfItems(path, &message).isEmpty());
         QVERIFY(!message.isEmpty());
     }
+    // A binary DXF is refused as binary, not as damaged; a file with zero bytes in its text
+    // is damaged.
+    QByteArray binary("AutoCAD Binary DXF\r\n\x1a");
+    binary.append('\0');
+    binary.append("\x00\x00SECTION\x00\x02\x00HEADER\x00", 20);
+    const QString binaryPath = m_dir.filePath(QStringLiteral("binary.dxf"));
+    QVERIFY(write(binaryPath, binary));
+    QString message;
+    QVERIFY(importDxfItems(binaryPath, &message).isEmpty());
+    QCOMPARE(message, QCoreApplication::translate("DxfImport", "不支持二进制 DXF 文件"));
+    QByteArray zeros = file(line(0, 0, 1, 1)).toUtf8();
+    zeros[10] = '\0';
+    const QString zeroPath = m_dir.filePath(QStringLiteral("zeros.dxf"));
+    QVERIFY(write(zeroPath, zeros));
+    QVERIFY(importDxfItems(zeroPath, &message).isEmpty());
+    QCOMPARE(message, QCoreApplication::translate("DxfImport", "DXF 文件已损坏"));
 }
 
 void TestImportItems::tracedItemLiesOverTheBitmap_data()

@@ -1,6 +1,7 @@
 // The mode preview dialog: the fit-to-label rule, what each label shows for each mode,
 // and the window actions that open it (only for a single selected bitmap) and trace a
 // selected bitmap.
+#include "colour_layers.h"
 #include "image_modes.h"
 #include "import_actions.h"
 #include "jk_chang_jing.h"
@@ -8,6 +9,7 @@
 #include "message_box.h"
 #include "moshiyulan.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
@@ -65,6 +67,7 @@ private slots:
     void previewOpensOnlyForOneBitmap_data();
     void previewOpensOnlyForOneBitmap();
     void traceSelectionAnnouncesTheItem();
+    void colourLayersOptionIsRemembered();
 };
 
 void TestMoShiYuLan::fitToLabel_data()
@@ -215,4 +218,25 @@ void TestMoShiYuLan::traceSelectionAnnouncesTheItem()
 }
 
 QTEST_MAIN(TestMoShiYuLan)
+void TestMoShiYuLan::colourLayersOptionIsRemembered()
+{
+    lumitra::setColourLayersEnabled(false);
+    QWidget window;
+    {
+        ImportActions actions(&window);
+        QAction *option = actions.colourLayersAction();
+        QCOMPARE(actions.actions(), QList<QAction *>{option});
+        QVERIFY(option->isCheckable());
+        QVERIFY(!option->isChecked());
+        QCOMPARE(option->text(), QStringLiteral("按颜色分图层"));
+        option->trigger();
+        QVERIFY(lumitra::colourLayersEnabled());
+    }
+    // A new window starts with the remembered choice.
+    ImportActions again(&window);
+    QVERIFY(again.colourLayersAction()->isChecked());
+    again.colourLayersAction()->trigger();
+    QVERIFY(!lumitra::colourLayersEnabled());
+}
+
 #include "tst_moshiyulan.moc"

@@ -7,7 +7,9 @@
 #include "svg_path_data.h"
 #include "svg_reader.h"
 
+#include <QBuffer>
 #include <QDomDocument>
+#include <QTemporaryDir>
 #include <QtTest>
 #include <cmath>
 
@@ -103,6 +105,10 @@ private slots:
     void savedFiles_data();
     void savedFiles();
     void polygonAndRoundedRectangle();
+    void drawnElements_data();
+    void drawnElements();
+    void images();
+    void colours();
 };
 
 void TestSvgReader::coordinateList_data()
@@ -293,6 +299,12 @@ void TestSvgReader::pathData_data()
                                     << "" << false;
     QTest::newRow("numbers before any command") << "10 10 L5 5"
                                                 << "" << false;
+    QTest::newRow("line before any move") << "L10 10 L20 20"
+                                          << "" << false;
+    QTest::newRow("relative curve before any move") << "c1 1 2 2 3 3 M0 0 L1 1"
+                                                    << "" << false;
+    QTest::newRow("close before any move") << "Z M0 0 L1 1"
+                                           << "" << false;
     QTest::newRow("numbers after close") << "M0 0 L1 0 Z 5 5"
                                          << "M0,0 L1,0 L0,0" << false;
     QTest::newRow("bad arc flag") << "M0 0 A5 5 0 2 1 10 0"
@@ -495,4 +507,168 @@ void TestSvgReader::polygonAndRoundedRectangle()
 }
 
 QTEST_GUILESS_MAIN(TestSvgReader)
+void TestSvgReader::drawnElements_data()
+{
+    QTest::addColumn<QString>("svg");
+    QTest::addColumn<Boxes>("boxes");
+    QTest::addColumn<int>("texts");
+    const char *xlink = "width='1000mm' height='1000mm' viewBox='0 0 1000 1000' "
+                        "xmlns:xlink='http://www.w3.org/1999/xlink'";
+
+    // Reused parts.
+    QTest::newRow("use of a symbol: x, y and the viewBox fitted into width and height")
+        << svgDoc("<defs><symbol id='s' viewBox='0 0 10 10'><rect width='10' height='5'/>"
+                  "</symbol></defs><use href='#s' x='5' y='6' width='20' height='20'/>")
+        << Boxes{{5, 6, 20, 10}} << 0;
+    QTest::newRow("use of an element with xlink:href, transform before x and y")
+        << svgDoc("<defs><circle id='c' r='2'/></defs>"
+                  "<use xlink:href='#c' x='10' transform='translate(0 5)'/>",
+                  xlink)
+        << Boxes{{8, 3, 4, 4}} << 0;
+    QTest::newRow("nested uses add up, the original in defs is not drawn")
+        << svgDoc("<defs><rect id='r' width='1' height='2'/><g id='pair'><use href='#r'/>"
+                  "<use href='#r' x='10'/></g></defs>"
+                  "<use href='#pair' y='100'/><use href='#pair' x='50' y='200'/>")
+        << Boxes{{0, 100, 1, 2}, {10, 100, 1, 2}, {50, 200, 1, 2}, {60, 200, 1, 2}} << 0;
+    QTest::newRow("a used element that is drawn in place too")
+        << svgDoc("<rect id='r' x='1' y='1' width='2' height='2'/><use href='#r' x='10'/>")
+        << Boxes{{1, 1, 2, 2}, {11, 1, 2, 2}} << 0;
+    QTest::newRow("uses in a cycle end, the rest is drawn")
+        << svgDoc("<g id='a'><rect width='3' height='3'/><use href='#a' x='5'/></g>"
+                  "<use id='u1' href='#u2'/><use id='u2' href='#u1'/><use href='#missing'/>")
+        << Boxes{{0, 0, 3, 3}} << 0;
+    QTest::newRow("symbol without use is not drawn")
+        << svgDoc("<symbol id='s'><rect width='10' height='10'/></symbol>") << Boxes{} << 0;
+
+    // Units relative to the font size and the viewport (one user unit is one mm here).
+    QTest::newRow("em of the default 16 px font size")
+        << svgDoc("<circle cx='2em' cy='1em' r='0.5em'/>") << Boxes{{24, 8, 16, 16}} << 0;
+    QTest::newRow("em and ex of an inherited font size, attribute and style")
+        << svgDoc("<g font-size='10'><rect width='2em' height='1ex'/>"
+                  "<g style='font-size:4px'><rect x='1em' width='1em' height='1em'/></g>"
+                  "<g font-size='150%'><rect width='1em' height='1em'/></g></g>")
+        << Boxes{{0, 0, 20, 5}, {4, 0, 4, 4}, {0, 0, 15, 15}} << 0;
+    QTest::newRow("rem of the root font size, ch")
+        << svgDoc("<g font-size='2'><rect width='1rem' height='4ch'/></g>",
+                  "width='1000mm' height='1000mm' viewBox='0 0 1000 1000' font-size='20'")
+        << Boxes{{0, 0, 20, 4}} << 0;
+    QTest::newRow("percent of the viewBox, diagonal for r")
+        << svgDoc("<rect x='10%' y='20%' width='50%' height='25%'/><circle cx='50%' cy='50%' "
+                  "r='10%'/>",
+                  "width='1000mm' height='500mm' viewBox='0 0 1000 500'")
+        << Boxes{{100, 100, 500, 125}, {500 - 79.0569, 250 - 79.0569, 158.1139, 158.1139}} << 0;
+    QTest::newRow("percent of a nested viewport")
+        << svgDoc("<svg x='100' width='200' height='100' viewBox='0 0 20 10'>"
+                  "<rect width='50%' height='100%'/></svg>")
+        << Boxes{{100, 0, 100, 100}} << 0;
+    QTest::newRow("Q, vw and vh as pixels of the user space")
+        << svgDoc("<rect width='40Q' height='1vh'/>", "width='100mm' height='50mm'")
+        << Boxes{{0, 0, 10, 0.5}} << 0;
+
+    // Never drawn.
+    QTest::newRow("display none as attribute and as style")
+        << svgDoc("<g display='none'><rect width='9' height='9'/></g>"
+                  "<rect style='fill:red; display : none' width='8' height='8'/>"
+                  "<rect width='1' height='1'/>")
+        << Boxes{{0, 0, 1, 1}} << 0;
+    QTest::newRow("hidden layer, but a visible child shows")
+        << svgDoc("<g style='visibility:hidden'><rect width='9' height='9'/>"
+                  "<rect visibility='visible' width='2' height='2'/></g>"
+                  "<circle visibility='collapse' r='5'/>")
+        << Boxes{{0, 0, 2, 2}} << 0;
+    QTest::newRow("switch: the first child whose conditions hold")
+        << svgDoc("<switch><rect requiredExtensions='http://example.com/x' width='9' "
+                  "height='9'/><rect systemLanguage='qx-nope' width='8' height='8'/>"
+                  "<rect systemLanguage='' width='7' height='7'/>"
+                  "<g><rect width='3' height='3'/></g><rect width='6' height='6'/></switch>")
+        << Boxes{{0, 0, 3, 3}} << 0;
+    QTest::newRow("flowed text: the region frame is not drawn, the text is counted")
+        << svgDoc("<flowRoot><flowRegion><rect width='50' height='50'/></flowRegion>"
+                  "<flowPara>hello</flowPara></flowRoot><rect width='1' height='1'/>")
+        << Boxes{{0, 0, 1, 1}} << 1;
+    QTest::newRow("elements of other namespaces and unknown elements skipped")
+        << svgDoc("<foo:g xmlns:foo='urn:foo'><rect width='9' height='9'/></foo:g>"
+                  "<g xmlns='urn:other'><rect width='8' height='8'/></g>"
+                  "<wrapper><rect width='7' height='7'/></wrapper>"
+                  "<foreignObject><rect width='6' height='6'/></foreignObject>"
+                  "<g><rect width='1' height='1'/></g>")
+        << Boxes{{0, 0, 1, 1}} << 0;
+    QTest::newRow("path data not opening with a move")
+        << svgDoc("<path d='L10 10 L20 20'/><path d='M0 0 L1 1'/>") << Boxes{{0, 0, 1, 1}} << 0;
+    QTest::newRow("texts counted, hidden ones not")
+        << svgDoc("<text x='1' y='1'>a</text><g><text><tspan>b</tspan></text></g>"
+                  "<text display='none'>c</text><defs><text>d</text></defs>")
+        << Boxes{} << 2;
+}
+
+void TestSvgReader::drawnElements()
+{
+    QFETCH(QString, svg);
+    QFETCH(Boxes, boxes);
+    QFETCH(int, texts);
+    const SvgImportResult result = readSvgData(svg.toUtf8());
+    QVERIFY2(result.ok, qPrintable(result.error));
+    compareBoxes(result.paths, boxes, 1e-3);
+    QCOMPARE(result.textCount, texts);
+}
+
+void TestSvgReader::images()
+{
+    // A 4 x 2 image: embedded as a data URI, and as a file beside the SVG.
+    QImage image(4, 2, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    image.setPixel(0, 0, qRgb(0, 0, 0));
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    QVERIFY(image.save(&buffer, "PNG"));
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    QVERIFY(image.save(dir.filePath(QStringLiteral("side.png"))));
+    const QString svg =
+        svgDoc(QStringLiteral(
+                   "<image x='10' y='20' width='40' height='20' href='data:image/png;base64,%1'/>"
+                   "<g transform='translate(100 0)'><image width='8' href='side.png'/></g>"
+                   "<image href='missing.png' width='5' height='5'/>")
+                   .arg(QString::fromLatin1(png.toBase64())));
+    QFile file(dir.filePath(QStringLiteral("drawing.svg")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(svg.toUtf8());
+    file.close();
+    const SvgImportResult result = readSvgFile(file.fileName());
+    QVERIFY2(result.ok, qPrintable(result.error));
+    QCOMPARE(result.images.size(), 2);
+    QCOMPARE(result.images[0].image.size(), QSize(4, 2));
+    QCOMPARE(result.images[0].image.pixel(0, 0), qRgb(0, 0, 0));
+    auto mapped = [&](int i) { return result.images[i].pixelToMm.mapRect(QRectF(0, 0, 4, 2)); };
+    QVERIFY2(near(mapped(0), QRectF(10, 20, 40, 20), 1e-9), qPrintable(describe(mapped(0))));
+    // Only a width: the height follows the image's proportions.
+    QVERIFY2(near(mapped(1), QRectF(100, 0, 8, 4), 1e-9), qPrintable(describe(mapped(1))));
+    // Read from data, relative files have no folder to be found in.
+    QCOMPARE(readSvgData(svg.toUtf8()).images.size(), 1);
+}
+
+void TestSvgReader::colours()
+{
+    // Stroke first, else fill; both inherited, as attributes or styles; fill is black
+    // unless said otherwise.
+    const QString svg =
+        svgDoc("<g stroke='#ff0000'><rect width='1' height='1'/>"
+               "<rect stroke='none' fill='blue' width='2' height='2'/></g>"
+               "<circle style='stroke:rgb(0,128,0)' r='1'/><path fill='none' d='M0 0 L1 1'/>"
+               "<g style='fill:#0f0;stroke:none'><line x2='3' fill='url(#gradient) #123456'/></g>");
+    const SvgImportResult result = readSvgData(svg.toUtf8(), QString(), true);
+    QVERIFY(result.ok);
+    QCOMPARE(result.paths.size(), 5);
+    // The group's kinds come path first, then rects, circles, lines.
+    const QVector<QRgb> expected = {qRgb(255, 0, 0), qRgb(0, 0, 255), qRgb(0, 128, 0),
+                                    qRgb(0, 0, 0), qRgb(0x12, 0x34, 0x56)};
+    QVector<QRgb> got = result.colours;
+    for (QRgb &c : got)
+        c |= 0xff000000u;
+    QCOMPARE(got, expected);
+    // Not asked for: none read.
+    QVERIFY(readSvgData(svg.toUtf8()).colours.isEmpty());
+}
+
 #include "tst_svg_reader.moc"
