@@ -461,6 +461,7 @@ void TestPathEmitter::rasterRowsInIncrementsLandExactly()
     // Increments are short: the lines average under nine bytes.
     const int lines = job.count('\n');
     QVERIFY2(job.size() < lines * 9, qPrintable(QString::number(double(job.size()) / lines)));
+}
 
 namespace {
 
