@@ -46,11 +46,19 @@ void Hou_tai_jie_kou::setToken(const QByteArray &token)
         emit loggedInChanged(loggedIn());
 }
 
+bool Hou_tai_jie_kou::isAccountPath(const QString &path)
+{
+    return path == QLatin1String("/logout") || path == QLatin1String("/files")
+           || path.startsWith(QLatin1String("/account/"));
+}
+
 QUrl Hou_tai_jie_kou::checkedUrl(const QString &pathAndQuery, const Done &done)
 {
     const QUrl url = cloud_url(m_base, pathAndQuery);
     QString why;
-    if (is_allowed_cloud_url(url, &why))
+    if (isAccountPath(url.path()) && !loggedIn())
+        why = QStringLiteral("not logged in");
+    else if (is_allowed_cloud_url(url, &why))
         return url;
     qWarning() << "cloud refused" << why;
     QTimer::singleShot(0, this, [done, why]() {

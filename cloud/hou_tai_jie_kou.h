@@ -55,8 +55,8 @@ struct MaterialUpload
 // is asynchronous on the thread that owns the object (the GUI thread): it
 // returns at once and `done` runs later, exactly once, from the event loop —
 // also when the call is refused before anything is sent (plain http to a host
-// that is not this machine, a bad address). TLS errors are never ignored.
-// The token and passwords never go to the log.
+// that is not this machine, a bad address, an account call while logged out). TLS errors are never
+// ignored. The token and passwords never go to the log.
 class Hou_tai_jie_kou : public QObject
 {
     Q_OBJECT
@@ -110,6 +110,10 @@ public:
 
     // The update check: "/app/check?type=0" without a token.
     void checkUpdate(Done done);
+
+    // Calls that need the token: "/logout", "/files" and "/account/...". They
+    // are refused locally, without a request, while logged out.
+    static bool isAccountPath(const QString &path);
 
     // The query of a list request, in the service's order.
     static QString materialQueryString(const MaterialQuery &query);
