@@ -4,6 +4,7 @@
 #include "grbl_time_estimator.h"
 #include "headless_camera.h"
 #include "headless_run.h"
+#include "headless_update_check.h"
 #include "headless_wifi_run.h"
 #include "importer_registry.h"
 #include "job_export.h"
@@ -104,6 +105,15 @@ int runEstimate(const CommandLine &cl)
     return 0;
 }
 
+// --check-update: the service's answer on stdout, or one line on stderr.
+int runUpdateCheck()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return runUpdateCheckHeadless(out, err);
+}
+
 int runWindow(QApplication &app, const CommandLine &cl)
 {
     const QString languageFile = load_language();
@@ -174,6 +184,8 @@ int run_application(int argc, char **argv)
         return runCameraPhoto(cl);
     case CommandLine::Estimate:
         return runEstimate(cl);
+    case CommandLine::CheckUpdate:
+        return runUpdateCheck();
     case CommandLine::Exit:
     case CommandLine::Window:
         break;
