@@ -344,3 +344,28 @@ void Hou_tai_jie_kou::checkUpdate(Done done)
 }
 
 } // namespace lumitra
+
+namespace lumitra {
+
+void Hou_tai_jie_kou::fetch(const QUrl &url, std::function<void(bool, const QByteArray &)> done)
+{
+    QString why;
+    if (!is_allowed_cloud_url(url, &why)) {
+        QTimer::singleShot(0, this, [done]() {
+            if (done)
+                done(false, QByteArray());
+        });
+        return;
+    }
+    QNetworkReply *reply =
+        m_manager->get(cloud_request(url, m_lang, QByteArray(), CloudCallKind::Download));
+    connect(reply, &QNetworkReply::finished, this, [reply, done]() {
+        reply->deleteLater();
+        const int http = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        const bool ok = reply->error() == QNetworkReply::NoError && http >= 200 && http < 300;
+        if (done)
+            done(ok, ok ? reply->readAll() : QByteArray());
+    });
+}
+
+} // namespace lumitra

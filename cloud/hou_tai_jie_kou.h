@@ -108,6 +108,10 @@ public:
     void uploadMaterial(const MaterialUpload &material, Done done);
     void materialsAction(const QStringList &ids, const QString &action, Done done);
 
+    // The bytes at an address from a reply (a thumbnail, a picture), without
+    // the token. `done(ok, bytes)` runs once from the event loop.
+    void fetch(const QUrl &url, std::function<void(bool, const QByteArray &)> done);
+
     // The update check: "/app/check?type=0" without a token.
     void checkUpdate(Done done);
 
