@@ -41,7 +41,16 @@ CloudController::CloudController(QWidget *window)
     });
 }
 
-CloudController::~CloudController() = default;
+CloudController::~CloudController()
+{
+    // The dialogs use the interface and the update pack owned here.
+    delete m_detail;
+    delete m_store;
+    delete m_login;
+    delete m_centre;
+    delete m_upload;
+    delete m_updateDialog;
+}
 
 template<class D> D *CloudController::present(QPointer<D> &slot, D *created)
 {

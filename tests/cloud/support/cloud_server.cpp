@@ -133,6 +133,13 @@ void CloudServer::addAccount(const QString &email, const QString &name, const QS
     m_accounts.insert(email, a);
 }
 
+QString CloudServer::storeFile(const QString &name, const QByteArray &bytes)
+{
+    const QString key = randomHex(12);
+    m_storage.insert(key, {name, bytes});
+    return baseUrl() + QStringLiteral("/storage/%1/%2").arg(key, name);
+}
+
 double CloudServer::balance(const QString &email) const
 {
     return m_accounts.value(email).balance;

@@ -84,6 +84,8 @@ public:
     void addAccount(const QString &email, const QString &name, const QString &password,
                     double balance);
     double balance(const QString &email) const;
+    // Keeps a file as if uploaded; returns its address (for material pictures).
+    QString storeFile(const QString &name, const QByteArray &bytes);
     QStringList purchases(const QString &email) const; // material ids
     QString modes(const QString &email, const QString &name) const;
 
