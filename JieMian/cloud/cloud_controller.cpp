@@ -61,6 +61,11 @@ template<class D> D *CloudController::present(QPointer<D> &slot, D *created)
     return created;
 }
 
+QString CloudController::menuTitle()
+{
+    return tr("云");
+}
+
 bool CloudController::needLogin()
 {
     if (m_api->loggedIn())

@@ -39,6 +39,8 @@ public:
 
     // Log in, personal centre, material store, upload material.
     QList<QAction *> actions() const { return m_actions; }
+    // The title of the menu that holds them: "云".
+    static QString menuTitle();
 
     // Unless the setting "CheckUpdate" is "0": one update check from the event
     // loop; an offered update opens GengXinXiaZai, a failed check shows nothing.

@@ -16,6 +16,7 @@
 #include "su_cai_xiang_qing.h"
 #include "update_pack.h"
 
+#include <QAction>
 #include <QBuffer>
 #include <QCheckBox>
 #include <QDir>
@@ -125,6 +126,33 @@ private slots:
     }
 
     void init() { m_messages.clear(); }
+
+    // The menu: its actions open the dialogs (account ones ask for a log-in).
+    void menuActions()
+    {
+        CloudController c(&m_window);
+        QCOMPARE(CloudController::menuTitle(), QStringLiteral("云"));
+        const QList<QAction *> actions = c.actions();
+        QStringList texts;
+        for (QAction *a : actions)
+            texts << a->text();
+        QCOMPARE(texts, (QStringList{"登录", "个人中心", "素材商城", "上传素材"}));
+        actions.at(0)->trigger();
+        QVERIFY(m_window.findChild<Jk_deng_lu *>());
+        actions.at(3)->trigger(); // no token
+        QCOMPARE(messageTexts(), QStringList{"请先登录"});
+        QVERIFY(!m_window.findChild<Su_Cai_Shang_Chuan *>());
+        actions.at(2)->trigger();
+        QPointer<jk_su_cai> store = m_window.findChild<jk_su_cai *>();
+        QVERIFY(store);
+        QSignalSpy shown(store.data(), &jk_su_cai::pageShown);
+        QVERIFY(shown.wait(10000));
+        // Activating an entry opens its detail.
+        QListWidget *list = child<QListWidget>(store, "list_List");
+        list->setCurrentRow(0);
+        QTest::keyClick(list, Qt::Key_Return);
+        QTRY_VERIFY(m_window.findChild<Su_Cai_Xiang_Qing *>());
+    }
 
     void logInThroughTheDialog_data()
     {
