@@ -9,6 +9,9 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QSslSocket>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -382,6 +385,28 @@ private slots:
         QVERIFY(done.first().at(1).toString().startsWith("Download failed:"));
         QCOMPARE(manager.requests, 0);
         QVERIFY(!QDir(m_dir.filePath("refused")).exists("setup.exe"));
+    }
+
+    // https to something that does not speak TLS: the handshake fails and the
+    // call fails with it; nothing is ignored and no envelope is read.
+    void tlsFailureIsNotIgnored()
+    {
+        if (!QSslSocket::supportsSsl())
+            QSKIP("no TLS backend");
+        QTcpServer plain;
+        QVERIFY(plain.listen(QHostAddress::LocalHost, 0));
+        connect(&plain, &QTcpServer::newConnection, &plain, [&plain]() {
+            QTcpSocket *s = plain.nextPendingConnection();
+            s->write("HTTP/1.1 200 OK\r\nContent-Length: 20\r\n\r\n{\"status\":\"success\"}");
+        });
+        Hou_tai_jie_kou api;
+        api.setBase(QUrl(QStringLiteral("https://127.0.0.1:%1").arg(plain.serverPort())));
+        bool finished = false;
+        const CloudResult r = call([&](Done d) { api.materialAttributes(d); }, &finished);
+        QVERIFY(finished);
+        QVERIFY(!r.reached);
+        QVERIFY(!r.ok);
+        QVERIFY(!r.message.isEmpty());
     }
 
     // No keyring on a test machine: the password is not remembered, nothing
