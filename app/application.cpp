@@ -1,9 +1,11 @@
 #include "application.h"
 
+#include "cloud_controller.h"
 #include "command_line.h"
 #include "grbl_time_estimator.h"
 #include "headless_camera.h"
 #include "headless_run.h"
+#include "headless_update_check.h"
 #include "headless_wifi_run.h"
 #include "importer_registry.h"
 #include "job_export.h"
@@ -133,6 +135,15 @@ int runEstimate(const CommandLine &cl)
     return 0;
 }
 
+// --check-update: the service's answer on stdout, or one line on stderr.
+int runUpdateCheck()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return runUpdateCheckHeadless(out, err);
+}
+
 int runWindow(QApplication &app, const CommandLine &cl)
 {
     const QString languageFile = load_language();
@@ -165,6 +176,8 @@ int runWindow(QApplication &app, const CommandLine &cl)
     window.setWindowIcon(icon);
     window.show();
     window.openFiles(cl.filesToOpen);
+    // Asked once the window is up; a failed check shows nothing.
+    window.cloudController()->checkForUpdateLater();
     if (splash)
         splash->finish(&window);
     return app.exec();
@@ -203,6 +216,8 @@ int run_application(int argc, char **argv)
         return runCameraPhoto(cl);
     case CommandLine::Estimate:
         return runEstimate(cl);
+    case CommandLine::CheckUpdate:
+        return runUpdateCheck();
     case CommandLine::Exit:
     case CommandLine::Window:
         break;

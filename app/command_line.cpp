@@ -27,7 +27,8 @@ CommandLine parse_command_line(const QStringList &arguments)
                        "  --camera HOST[:PORT] -o PHOTO.png\n"
                        "                             save the straightened camera photo\n"
                        "  --estimate FILE [--settings DUMP]\n"
-                       "                             print how many seconds a G-code file runs"));
+                       "                             print how many seconds a G-code file runs\n"
+                       "  --check-update             ask the cloud service for a newer version"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption exportOpt(QStringLiteral("export"),
@@ -72,6 +73,10 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("Resume the --run job at this line (the one an interrupted run printed): "
                        "its state is restored and the head moves there with the laser off."),
         QStringLiteral("N"));
+    const QCommandLineOption checkUpdateOpt(
+        QStringLiteral("check-update"),
+        QStringLiteral("Ask the cloud service (setting CloudBase, or LUMITRA_CLOUD_URL) for a "
+                       "newer version; prints its notes and file address, or \"up to date\"."));
     parser.addOption(exportOpt);
     parser.addOption(outputOpt);
     const QMap<QString, QString> optionHelp = {
@@ -99,6 +104,7 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(estimateOpt);
     parser.addOption(settingsOpt);
     parser.addOption(fromLineOpt);
+    parser.addOption(checkUpdateOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Design files to open in the window."),
                                  QStringLiteral("[files...]"));
@@ -129,6 +135,13 @@ CommandLine parse_command_line(const QStringList &arguments)
         result.message = text;
         return result;
     };
+    if (parser.isSet(checkUpdateOpt)) {
+        const QStringList given = parser.optionNames();
+        if (given.size() != 1 || !parser.positionalArguments().isEmpty())
+            return usage(QStringLiteral("--check-update is used alone"));
+        result.mode = CommandLine::CheckUpdate;
+        return result;
+    }
     if (parser.isSet(estimateOpt)) {
         if (exporting || running || parser.isSet(cameraOpt) || parser.isSet(homeOpt)
             || parser.isSet(wsPortOpt) || parser.isSet(outputOpt))

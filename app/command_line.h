@@ -9,7 +9,7 @@ namespace lumitra {
 // What the command line asks the one executable to do.
 struct CommandLine
 {
-    enum Mode { Window, Export, Run, Exit, WifiRun, Camera, Estimate };
+    enum Mode { Window, Export, Run, Exit, WifiRun, Camera, Estimate, CheckUpdate };
     Mode mode = Window;
     int exitCode = 0; // for Exit: --help, --version or a usage error
     QString message;  // printed for Exit (stdout when exitCode is 0, else stderr)
@@ -40,6 +40,9 @@ struct CommandLine
     // file holding the controller's "$$" reply (its defaults when empty).
     QString estimateFile;
     QString settingsFile;
+
+    // --check-update: asks the cloud service once and prints its answer (no
+    // other field is used).
 
     // Window mode: design files named on the command line are opened.
     QStringList filesToOpen;

@@ -5,16 +5,20 @@
 #include "barcode_actions.h"
 #include "camera_controller.h"
 #include "close_guard.h"
+#include "cloud_controller.h"
+#include "cut_order.h"
 #include "design_pages.h"
 #include "edit_controller.h"
 #include "frame_area.h"
 #include "gcode_job_controller.h"
+#include "geometry_actions.h"
 #include "grbl_machine_settings.h"
 #include "import_actions.h"
 #include "jiao_zhun.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "job_preview_dialog.h"
+#include "job_time_display.h"
 #include "language_controller.h"
 #include "layer_list.h"
 #include "layer_palette_bar.h"
@@ -28,6 +32,7 @@
 #include "program_state.h"
 #include "project_commands.h"
 #include "recent_files_menu.h"
+#include "resume_offer.h"
 #include "rotation_field.h"
 #include "settings_store.h"
 #include "tu_ceng_zhi.h"
@@ -37,6 +42,7 @@
 #include "window_title.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFile>
 #include <QMenu>
@@ -44,6 +50,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QToolBar>
+#include <QToolButton>
 #include <QUndoStack>
 #include <algorithm>
 
@@ -77,6 +84,7 @@ Widget::Widget(QWidget *parent) : QWidget(parent), ui(new Ui::Widget)
     setupImport();
     setupJobs();
     setupMachine();
+    setupCloud();
     buildFileMenu();
     arrangePanels();
 
@@ -129,7 +137,8 @@ void Widget::setupDesign()
     m_project = new ProjectCommands(m_pages, this, this);
     connect(ui->open_Btn, &QPushButton::clicked, m_project, &ProjectCommands::open_project);
     connect(ui->save_Btn, &QPushButton::clicked, m_project, &ProjectCommands::save_project);
-    connect(m_pages, &DesignPages::filesDropped, m_project, &ProjectCommands::open_files);
+    // Dropped files land where they are dropped.
+    connect(m_pages, &DesignPages::filesDroppedAt, m_project, &ProjectCommands::open_files_at);
 }
 
 void Widget::setupEditing()
@@ -141,6 +150,7 @@ void Widget::setupEditing()
     tools->setOrientation(Qt::Vertical);
     tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
     tools->addActions(m_edit->toolActions());
+    tools->addAction(m_edit->nodeToolAction());
     tools->addSeparator();
     for (EditController::Action a :
          {EditController::Text, EditController::Move, EditController::Array,
@@ -148,6 +158,16 @@ void Widget::setupEditing()
           EditController::RotateClockwise, EditController::RotateAnticlockwise,
           EditController::Combine, EditController::BreakApart})
         tools->addAction(m_edit->action(a));
+    // Offset, weld and the other outline operations behind one button.
+    auto *geometry = new GeometryActions(m_pages, this, this);
+    auto *geometryMenu = new QMenu(this);
+    geometryMenu->addActions(geometry->actions());
+    auto *geometryButton = new QToolButton(tools);
+    geometryButton->setText(tr("路径运算"));
+    geometryButton->setObjectName(QStringLiteral("geometry_Btn"));
+    geometryButton->setMenu(geometryMenu);
+    geometryButton->setPopupMode(QToolButton::InstantPopup);
+    tools->addWidget(geometryButton);
     ui->toolHostLayout->addWidget(tools);
     auto *align = new AlignPanel(ui->toolHost);
     ui->toolHostLayout->addWidget(align);
@@ -212,7 +232,42 @@ void Widget::previewJob()
     const GrblMachineSettings machine = GrblMachineSettings::fromDeviceInfo(reported);
     dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0,
                                         reported.isEmpty() ? nullptr : &machine));
+    dialog->setTravelSaved(lumitra::cutOrderTravelSaved(items, LayerList::instance()));
+    // The player plays the same job back, timed the same way.
+    job.seek(0);
+    dialog->setJob(job, reported.isEmpty() ? nullptr : &machine);
     dialog->show();
+}
+
+void Widget::setupCloud()
+{
+    // Account, material store and update check, behind a "云" button beside
+    // the tools.
+    m_cloud = new CloudController(this);
+    m_cloud->setDesignFileProvider([this] { return m_project->currentPath(); });
+    auto *menu = new QMenu(this);
+    menu->addActions(m_cloud->actions());
+    auto *button = new QToolButton(ui->tools_Btn->parentWidget());
+    button->setObjectName(QStringLiteral("cloud_Btn"));
+    button->setText(CloudController::menuTitle());
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(menu);
+    for (QBoxLayout *row : ui->tools_Btn->parentWidget()->findChildren<QBoxLayout *>()) {
+        const int at = row->indexOf(ui->tools_Btn);
+        if (at >= 0) {
+            row->insertWidget(at + 1, button);
+            break;
+        }
+    }
+    // A bought design opens on a page of its own.
+    connect(m_cloud, &CloudController::openDesignFile, this, [this](const QString &path) {
+        m_pages->setCurrentIndex(m_pages->addPage());
+        m_project->open_file(path);
+    });
+    connect(m_cloud, &CloudController::quitForInstall, this, [this] {
+        if (confirmQuit())
+            emit quitRequested(0);
+    });
 }
 
 void Widget::setupMachine()
@@ -220,6 +275,10 @@ void Widget::setupMachine()
     m_machinePanel = new MachinePanel(ui->machineHost);
     ui->machineHostLayout->addWidget(m_machinePanel);
     m_machine = new MachineController(m_machinePanel, this, this);
+    // After an interrupted serial job: "resume from line N"; while one runs,
+    // the time left beside the progress bar.
+    new ResumeOffer(m_machine, m_machinePanel, this, this);
+    new JobTimeDisplay(m_machine, m_machinePanel, this);
     m_machine->setFrameSource(
         [this] { return outputBounds(currentDesignItems(), LayerList::instance()); });
     // The board last reached over WiFi is offered again.
@@ -258,6 +317,8 @@ void Widget::setupMachine()
     tools->addSeparator();
     tools->addActions(m_production->actions());
     tools->addActions(barcodes->actions());
+    tools->addSeparator();
+    tools->addActions(m_import->actions()); // colours to layers on import
     ui->tools_Btn->setMenu(tools);
     connect(m_machine, &MachineController::machineTravelKnown, m_pages,
             [this](const MachineTravel &, bool) { m_pages->refreshWorkArea(); });

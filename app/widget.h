@@ -16,6 +16,7 @@ class GcodeJobController;
 class MachineController;
 class MachinePanel;
 class ImportActions;
+class CloudController;
 class LayerPaletteBar;
 class LayerPanelController;
 class LayerRowsPanel;
@@ -54,6 +55,7 @@ public:
     WifiLinkController *wifiController() const { return m_wifi; }
     WifiToolsController *wifiTools() const { return m_wifiTools; }
     CameraController *cameraController() const { return m_camera; }
+    CloudController *cloudController() const { return m_cloud; }
 
     // Opens design files given on the command line.
     void openFiles(const QStringList &paths);
@@ -81,6 +83,7 @@ private:
     void setupEditing();
     void setupJobs();
     void setupMachine();
+    void setupCloud();
     // Generates the job of the current page and sends it over the open link.
     void startJob();
     // Generates the job and shows what it will burn, with its estimated time.
@@ -97,6 +100,7 @@ private:
     Tu_Ceng_Zhi *m_layerParameters = nullptr;
     LayerPanelController *m_layers = nullptr;
     ImportActions *m_import = nullptr;
+    CloudController *m_cloud = nullptr;
     EditController *m_edit = nullptr;
     GcodeJobController *m_jobs = nullptr;
     MachinePanel *m_machinePanel = nullptr;

@@ -15,7 +15,7 @@ packages=(
   qtbase5-dev qtbase5-dev-tools libqt5serialport5-dev libqt5websockets5-dev
   qttools5-dev qttools5-dev-tools
   libopencv-core-dev libopencv-imgproc-dev libpotrace-dev libdxflib-dev
-  libzint-dev zbar-tools qttranslations5-l10n
+  libzint-dev zbar-tools qttranslations5-l10n qtkeychain-qt5-dev zlib1g-dev
   xvfb xauth
   libpolyclipping-dev
 )

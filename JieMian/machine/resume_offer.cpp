@@ -112,3 +112,8 @@ bool ResumeOffer::resumeFrom(int line)
     emit resumed(m_original, line);
     return true;
 }
+
+ResumeDialog *ResumeOffer::dialog() const
+{
+    return m_dialog;
+}

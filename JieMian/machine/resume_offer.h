@@ -35,7 +35,7 @@ public:
     void watchLink();
 
     // The dialog on screen, or nullptr.
-    ResumeDialog *dialog() const { return m_dialog; }
+    ResumeDialog *dialog() const;
     // Where a resumed job runs from (the original job's path and line).
     QString originalJob() const { return m_original; }
 

@@ -63,6 +63,13 @@ private slots:
         QTest::newRow("resume from no number")
             << QStringList{"--port", "p", "--run", "a.nc", "--from-line", "x"}
             << int(CommandLine::Exit) << 2;
+        QTest::newRow("check update")
+            << QStringList{"--check-update"} << int(CommandLine::CheckUpdate) << 0;
+        QTest::newRow("check update with a file")
+            << QStringList{"--check-update", "a.lumitra"} << int(CommandLine::Exit) << 2;
+        QTest::newRow("check update with export")
+            << QStringList{"--check-update", "--export", "a.svg", "-o", "a.nc"}
+            << int(CommandLine::Exit) << 2;
     }
     void parse()
     {

@@ -6,8 +6,14 @@
 #include "array_dialog.h"
 #include "barcode_dialog.h"
 #include "controller_search_dialog.h"
+#include "ge_ren_zhong_xin.h"
+#include "geng_xin_xia_zai.h"
 #include "gun_zhou.h"
+#include "hou_tai_jie_kou.h"
+#include "image_cache.h"
 #include "jiao_zhun.h"
+#include "jk_deng_lu.h"
+#include "jk_su_cai.h"
 #include "jk_wen_zi2.h"
 #include "job_preview_dialog.h"
 #include "language.h"
@@ -22,8 +28,11 @@
 #include "program_state.h"
 #include "qidongye.h"
 #include "sd_file_manager.h"
+#include "su_cai_shang_chuan.h"
+#include "su_cai_xiang_qing.h"
 #include "test_card_dialog.h"
 #include "tu_ceng_zhi.h"
+#include "update_pack.h"
 #include "widget.h"
 #include "wifi_she_zhi.h"
 #include "window_driver.h"
@@ -149,6 +158,17 @@ using FormMaker = std::function<QWidget *()>;
 
 } // namespace
 
+// A cloud dialog with its own interface (owned by the dialog) aimed at a
+// closed port on this machine, so that nothing leaves it.
+template<class D, class Make> QWidget *withCloud(Make make)
+{
+    auto *api = new lumitra::Hou_tai_jie_kou;
+    api->setBase(QUrl(QStringLiteral("http://127.0.0.1:9")));
+    D *dialog = make(api);
+    api->setParent(dialog);
+    return dialog;
+}
+
 class TestTextFit : public QObject
 {
     Q_OBJECT
@@ -182,7 +202,13 @@ private slots:
                                 "QiDongYe",
                                 "ParameterLibraryDialog",
                                 "TestCardDialog",
-                                "BarcodeDialog"};
+                                "BarcodeDialog",
+                                "Jk_deng_lu",
+                                "GeRenZhongXin",
+                                "jk_su_cai",
+                                "Su_Cai_Xiang_Qing",
+                                "Su_Cai_Shang_Chuan",
+                                "GengXinXiaZai"};
         QStringList languages{QString()};
         languages << all_language_codes();
         for (const QString &language : languages)
@@ -224,6 +250,37 @@ private slots:
             {"ParameterLibraryDialog", [] { return new ParameterLibraryDialog; }},
             {"TestCardDialog", [] { return new TestCardDialog; }},
             {"BarcodeDialog", [] { return new BarcodeDialog; }},
+            // The cloud dialogs, each with an interface of its own that only
+            // reaches a closed port on this machine.
+            {"Jk_deng_lu",
+             [] {
+                 return withCloud<Jk_deng_lu>(
+                     [](auto *api) { return new Jk_deng_lu(api, nullptr); });
+             }},
+            {"GeRenZhongXin",
+             [] {
+                 return withCloud<GeRenZhongXin>([](auto *api) { return new GeRenZhongXin(api); });
+             }},
+            {"jk_su_cai",
+             [] { return withCloud<jk_su_cai>([](auto *api) { return new jk_su_cai(api); }); }},
+            {"Su_Cai_Xiang_Qing",
+             [] {
+                 return withCloud<Su_Cai_Xiang_Qing>([](auto *api) {
+                     return new Su_Cai_Xiang_Qing(api, new lumitra::ImageCache(api, api),
+                                                  QString());
+                 });
+             }},
+            {"Su_Cai_Shang_Chuan",
+             [] {
+                 return withCloud<Su_Cai_Shang_Chuan>(
+                     [](auto *api) { return new Su_Cai_Shang_Chuan(api); });
+             }},
+            {"GengXinXiaZai",
+             [] {
+                 return withCloud<GengXinXiaZai>([](auto *api) {
+                     return new GengXinXiaZai(new lumitra::UpdatePack(api, api));
+                 });
+             }},
         };
         std::unique_ptr<QWidget> shown;
         if (form == QLatin1String("Widget")) {
