@@ -208,7 +208,8 @@ private slots:
                  (QStringList{QStringLiteral("WiFi设置"), QStringLiteral("SD卡文件管理"),
                               QStringLiteral("搜索设备"), QString(), QStringLiteral("校准摄像头"),
                               QStringLiteral("拍照"), QString(), QStringLiteral("参数库"),
-                              QStringLiteral("材料测试卡"), QStringLiteral("二维码/条形码")}));
+                              QStringLiteral("材料测试卡"), QStringLiteral("二维码/条形码"),
+                              QString(), QStringLiteral("按颜色分图层")}));
 
         tools->actions().at(0)->trigger(); // WiFi setup
         WIFI_She_Zhi *setup = w.wifiTools()->setupDialog();
