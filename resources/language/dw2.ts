@@ -260,6 +260,33 @@
     </message>
 </context>
 <context>
+    <name>CloudController</name>
+    <message>
+        <source>登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>个人中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>素材商城</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传素材</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>云</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ControllerSearchDialog</name>
     <message>
         <source>搜索设备</source>
@@ -382,6 +409,10 @@
         <source>DXF 文件已损坏</source>
         <translation>Die DXF-Datei ist beschädigt</translation>
     </message>
+    <message>
+        <source>不支持二进制 DXF 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>EditCommand</name>
@@ -412,6 +443,58 @@
     <message>
         <source>修改文字</source>
         <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>移动节点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移动控制点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>添加节点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除节点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>转为直线</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>转为曲线</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>断开节点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连接节点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>焊接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>修剪</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>相交</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>排除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>偏移</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -520,6 +603,10 @@
         <source>曲线</source>
         <translation>Kurve</translation>
     </message>
+    <message>
+        <source>节点</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>GcodeJobController</name>
@@ -596,6 +683,123 @@ Fortfahren?</translation>
     <message>
         <source>仍然运行</source>
         <translation>Trotzdem starten</translation>
+    </message>
+</context>
+<context>
+    <name>GeRenZhongXin</name>
+    <message>
+        <source>个人中心</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>昵称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>邮箱：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>余额：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>充值金额：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>充值</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模式名称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>退出登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入模式名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存成功</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GengXinXiaZai</name>
+    <message>
+        <source>版本更新说明</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>立即更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>下载完成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>稍后退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>立即退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请退出安装</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished">Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>GeometryActions</name>
+    <message>
+        <source>偏移...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>焊接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>修剪</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>相交</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>排除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从最下层的图形中减去其余图形</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -694,6 +898,14 @@ Fortfahren?</translation>
         <source>位图中没有可描摹的轮廓!</source>
         <translation>Die Bitmap enthält keine Konturen zum Vektorisieren!</translation>
     </message>
+    <message>
+        <source>按颜色分图层</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导入时每种颜色放到单独的图层</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>JiaoZhun</name>
@@ -716,6 +928,97 @@ Fortfahren?</translation>
     <message>
         <source>已选择 %1/%2 个点</source>
         <translation>%1 von %2 Punkten gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>Jk_deng_lu</name>
+    <message>
+        <source>登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>邮箱：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>密码：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>验证码：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>获取验证码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>验证码登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>记住密码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>注册</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>昵称：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确认密码：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>忘记密码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>新密码：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入邮箱</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>验证码已发送</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入邮箱和验证码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请输入邮箱和密码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请填写完整</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>两次密码不一致</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>注册成功</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>修改成功,请去登录！</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -824,6 +1127,29 @@ Fortfahren?</translation>
     <message>
         <source>含加速与转角减速；只按速度：%1</source>
         <translation>Mit Beschleunigung und Eckenbremsung; nur nach Vorschub: %1</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(省 %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>优化切割顺序比按绘制顺序少空移 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation type="unfinished">Pause</translation>
+    </message>
+</context>
+<context>
+    <name>JobTimeDisplay</name>
+    <message>
+        <source>剩余 %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1145,6 +1471,53 @@ Fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>OffsetDialog</name>
+    <message>
+        <source>偏移</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>距离(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>拐角：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>圆角</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尖角</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>方角</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保留原图形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>OpenDispatch</name>
     <message>
         <source>图片太大,无法打开!</source>
@@ -1400,6 +1773,40 @@ Fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>ResumeDialog</name>
+    <message>
+        <source>继续作业</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从第几行继续:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>控制器已复位:请先归位或重新设置原点。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>作业中断。从第 %1 行继续?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>无法继续作业。</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SdFileManager</name>
     <message>
         <source>SD卡文件管理</source>
@@ -1503,6 +1910,128 @@ Fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>Su_Cai_Shang_Chuan</name>
+    <message>
+        <source>上传素材</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>标题：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>价格：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation type="unfinished">Auswählen</translation>
+    </message>
+    <message>
+        <source>图片：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>分类：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料：</source>
+        <translation type="unfinished">Material:</translation>
+    </message>
+    <message>
+        <source>标签：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>详情：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation type="unfinished">Hochladen</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请填写完整</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上传成功</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Su_Cai_Xiang_Qing</name>
+    <message>
+        <source>素材详情</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>购买</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation type="unfinished">Öffnen</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有发现素材数据</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请先登录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>是否购买素材</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished">Hinweis</translation>
+    </message>
+    <message>
+        <source>素材购买失败,请重新购买!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>素材购买成功!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SvgImport</name>
     <message>
         <source>SVG 文件嵌套层数过多</source>
@@ -1527,6 +2056,10 @@ Fortfahren?</translation>
     <message>
         <source>SVG 文件过大</source>
         <translation>Die SVG-Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1726,6 +2259,34 @@ Fortfahren?</translation>
     <message>
         <source>确定</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>曲线按 0.01 毫米精度切割</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>精细曲线</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切缝(mm)：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切割顺序：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按绘制</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>优化</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1929,6 +2490,10 @@ Fortfahren?</translation>
         <source>工具</source>
         <translation>Werkzeuge</translation>
     </message>
+    <message>
+        <source>路径运算</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -1998,6 +2563,65 @@ Fortfahren?</translation>
     <message>
         <source>IP不能为空!</source>
         <translation>Die IP-Adresse darf nicht leer sein!</translation>
+    </message>
+</context>
+<context>
+    <name>jk_su_cai</name>
+    <message>
+        <source>素材商城</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>分类：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>材料：</source>
+        <translation type="unfinished">Material:</translation>
+    </message>
+    <message>
+        <source>价格：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>机型：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功率：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>标签：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上一页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下一页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation type="unfinished">Alle</translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
