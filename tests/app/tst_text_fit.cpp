@@ -21,12 +21,14 @@
 #include "layer_panel_controller.h"
 #include "machine_panel.h"
 #include "message_box.h"
+#include "offset_dialog.h"
 #include "moshiyulan.h"
 #include "move_dialog.h"
 #include "parameter_library_dialog.h"
 #include "photo_panel.h"
 #include "program_state.h"
 #include "qidongye.h"
+#include "resume_dialog.h"
 #include "sd_file_manager.h"
 #include "su_cai_shang_chuan.h"
 #include "su_cai_xiang_qing.h"
@@ -208,7 +210,9 @@ private slots:
                                 "jk_su_cai",
                                 "Su_Cai_Xiang_Qing",
                                 "Su_Cai_Shang_Chuan",
-                                "GengXinXiaZai"};
+                                "GengXinXiaZai",
+                                "OffsetDialog",
+                                "ResumeDialog"};
         QStringList languages{QString()};
         languages << all_language_codes();
         for (const QString &language : languages)
@@ -280,6 +284,13 @@ private slots:
                  return withCloud<GengXinXiaZai>([](auto *api) {
                      return new GengXinXiaZai(new lumitra::UpdatePack(api, api));
                  });
+             }},
+            {"OffsetDialog", [] { return new OffsetDialog; }},
+            // After an alarm: the longest form, with the warning shown.
+            {"ResumeDialog",
+             [] {
+                 return new ResumeDialog(QStringList{"G0X1Y1", "G1X20Y5S500F1000", "G1X1Y1"}, 2,
+                                         true);
              }},
         };
         std::unique_ptr<QWidget> shown;
