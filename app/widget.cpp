@@ -158,16 +158,8 @@ void Widget::setupEditing()
           EditController::RotateClockwise, EditController::RotateAnticlockwise,
           EditController::Combine, EditController::BreakApart})
         tools->addAction(m_edit->action(a));
-    // Offset, weld and the other outline operations behind one button.
-    auto *geometry = new GeometryActions(m_pages, this, this);
-    auto *geometryMenu = new QMenu(this);
-    geometryMenu->addActions(geometry->actions());
-    auto *geometryButton = new QToolButton(tools);
-    geometryButton->setText(tr("路径运算"));
-    geometryButton->setObjectName(QStringLiteral("geometry_Btn"));
-    geometryButton->setMenu(geometryMenu);
-    geometryButton->setPopupMode(QToolButton::InstantPopup);
-    tools->addWidget(geometryButton);
+    // Offset, weld and the other outline operations (in the edit menu).
+    m_geometry = new GeometryActions(m_pages, this, this);
     ui->toolHostLayout->addWidget(tools);
     auto *align = new AlignPanel(ui->toolHost);
     ui->toolHostLayout->addWidget(align);
@@ -396,6 +388,8 @@ void Widget::buildFileMenu()
           EditController::Paste, EditController::Duplicate, EditController::Delete,
           EditController::SelectAll})
         edit->addAction(m_edit->action(a));
+    edit->addSeparator();
+    edit->addActions(m_geometry->actions());
     ui->edit_Btn->setMenu(edit);
 }
 

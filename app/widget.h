@@ -17,6 +17,7 @@ class MachineController;
 class MachinePanel;
 class ImportActions;
 class CloudController;
+class GeometryActions;
 class LayerPaletteBar;
 class LayerPanelController;
 class LayerRowsPanel;
@@ -101,6 +102,7 @@ private:
     LayerPanelController *m_layers = nullptr;
     ImportActions *m_import = nullptr;
     CloudController *m_cloud = nullptr;
+    GeometryActions *m_geometry = nullptr;
     EditController *m_edit = nullptr;
     GcodeJobController *m_jobs = nullptr;
     MachinePanel *m_machinePanel = nullptr;

@@ -1,0 +1,150 @@
+// The tools that joined the window, used as a user meets them: the outline
+// operations in the edit menu, the node tool on the tool bar, the cloud button.
+#include "importer_registry.h"
+#include "job_preview_dialog.h"
+#include "program_state.h"
+#include "settings_store.h"
+#include "window_driver.h"
+
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUndoStack>
+#include <QtTest>
+
+using namespace lumitra;
+using namespace window_test;
+
+namespace {
+
+QAction *menuAction(Widget &w, const char *button, const QString &text)
+{
+    QMenu *menu = child<QToolButton>(&w, button)->menu();
+    if (!menu)
+        return nullptr;
+    for (QAction *a : menu->actions()) {
+        if (a->text() == text)
+            return a;
+    }
+    return nullptr;
+}
+
+QList<Jk_tu_yuan *> designItems(Jk_chang_jing *scene)
+{
+    QList<Jk_tu_yuan *> out;
+    for (QGraphicsItem *i : scene->items()) {
+        if (auto *item = dynamic_cast<Jk_tu_yuan *>(i))
+            out << item;
+    }
+    return out;
+}
+
+} // namespace
+
+class TestWindowTools : public QObject
+{
+    Q_OBJECT
+
+    Asked m_asked;
+
+private slots:
+    void initTestCase() { register_importers(); }
+    void init()
+    {
+        QDir(config_dir()).removeRecursively();
+        resetProgramState();
+        m_asked = Asked();
+        m_asked.install();
+    }
+    void cleanupTestCase() { set_message_handler({}); }
+
+    // Two overlapping rectangles drawn on the canvas, selected, welded from
+    // the edit menu: one outline around both; undo gives both back.
+    void weldFromTheEditMenu()
+    {
+        Widget w;
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        Driver d(&w);
+        d.drawRectangle(QPointF(50, -50), QPointF(120, -100));
+        d.drawRectangle(QPointF(100, -60), QPointF(160, -120));
+        Driver::settle();
+        QCOMPARE(designItems(d.scene()).size(), 2);
+        w.editController()->action(EditController::SelectAll)->trigger();
+        Driver::settle();
+
+        QAction *weld = menuAction(w, "edit_Btn", QStringLiteral("焊接"));
+        QVERIFY(weld);
+        weld->trigger();
+        Driver::settle();
+        const QList<Jk_tu_yuan *> welded = designItems(d.scene());
+        QCOMPARE(welded.size(), 1);
+        const QRectF bounds = welded.first()->mapToScene(welded.first()->path).boundingRect();
+        QVERIFY2(qAbs(bounds.width() - 110) < 0.01 && qAbs(bounds.height() - 70) < 0.01,
+                 qPrintable(QStringLiteral("%1 x %2").arg(bounds.width()).arg(bounds.height())));
+        // One outline: the overlap is gone, not a hole.
+        QCOMPARE(welded.first()->path.toSubpathPolygons().size(), 1);
+
+        w.editController()->action(EditController::Undo)->trigger();
+        Driver::settle();
+        QCOMPARE(designItems(d.scene()).size(), 2);
+    }
+
+    // The node tool sits on the tool bar with the drawing tools and is one of
+    // them: choosing it unchecks the rectangle.
+    void nodeToolOnTheToolBar()
+    {
+        Widget w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QAction *node = w.editController()->nodeToolAction();
+        bool onBar = false;
+        for (QToolBar *bar : w.findChildren<QToolBar *>())
+            onBar = onBar || bar->actions().contains(node);
+        QVERIFY(onBar);
+        Driver d(&w);
+        d.tool(2);
+        node->trigger();
+        QVERIFY(node->isChecked());
+        QVERIFY(!w.editController()->toolAction(2)->isChecked());
+    }
+
+    // The preview button opens the preview with the job loaded in its player.
+    void previewPlaysTheJob()
+    {
+        Widget w;
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        Driver d(&w);
+        d.drawRectangle(QPointF(50, -50), QPointF(120, -100));
+        Driver::settle();
+        child<QAbstractButton>(&w, "preview_Btn")->click();
+        JobPreviewDialog *dialog = nullptr;
+        QTRY_VERIFY((dialog = w.findChild<JobPreviewDialog *>()) != nullptr);
+        // The rectangle: a move and four burns at least.
+        QVERIFY2(dialog->timeline().lineCount() >= 5,
+                 qPrintable(QString::number(dialog->timeline().lineCount())));
+        QVERIFY(dialog->timeline().totalSeconds() > 0);
+        dialog->close();
+    }
+
+    // The cloud button: account features ask to log in first.
+    void cloudAsksToLogIn()
+    {
+        Widget w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QMenu *menu = child<QToolButton>(&w, "cloud_Btn")->menu();
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().size(), 4);
+        QAction *centre = menuAction(w, "cloud_Btn", QStringLiteral("个人中心"));
+        QVERIFY(centre);
+        centre->trigger();
+        QTRY_VERIFY(m_asked.messages().contains(QStringLiteral("请先登录")));
+    }
+};
+
+QTEST_MAIN(TestWindowTools)
+#include "tst_window_tools.moc"
