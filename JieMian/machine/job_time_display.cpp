@@ -53,8 +53,15 @@ void JobTimeDisplay::onProgress(int percent)
         QThread::create([=] { *ok = PlannedJobTime::planFile(path, settings, result.get()); });
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     connect(thread, &QThread::finished, this, [this, run, result, ok] {
-        if (run != m_run || !m_active || !*ok)
+        if (run != m_run || !m_active)
             return;
+        if (!*ok) {
+            // The file was not the run's (a report that came before the job
+            // file was named): the next start report plans again.
+            m_active = false;
+            m_tick.stop();
+            return;
+        }
         m_timeline = *result;
         m_planned = true;
         refresh();

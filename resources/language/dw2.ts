@@ -263,27 +263,27 @@
     <name>CloudController</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Konto</translation>
     </message>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Design-Shop</translation>
     </message>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Design hochladen</translation>
     </message>
     <message>
         <source>云</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst anmelden</translation>
     </message>
 </context>
 <context>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>不支持二进制 DXF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Binäre DXF-Dateien werden nicht unterstützt</translation>
     </message>
 </context>
 <context>
@@ -446,55 +446,55 @@
     </message>
     <message>
         <source>移动节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten verschieben</translation>
     </message>
     <message>
         <source>移动控制点</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuerpunkt verschieben</translation>
     </message>
     <message>
         <source>添加节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten hinzufügen</translation>
     </message>
     <message>
         <source>删除节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten löschen</translation>
     </message>
     <message>
         <source>转为直线</source>
-        <translation type="unfinished"></translation>
+        <translation>In Linie umwandeln</translation>
     </message>
     <message>
         <source>转为曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>In Kurve umwandeln</translation>
     </message>
     <message>
         <source>断开节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten trennen</translation>
     </message>
     <message>
         <source>连接节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten verbinden</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschweißen</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtrahieren</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittmenge</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschließen</translation>
     </message>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz</translation>
     </message>
 </context>
 <context>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
 </context>
 <context>
@@ -689,117 +689,117 @@ Fortfahren?</translation>
     <name>GeRenZhongXin</name>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Konto</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nickname:</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail:</translation>
     </message>
     <message>
         <source>余额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Guthaben:</translation>
     </message>
     <message>
         <source>充值金额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufladebetrag:</translation>
     </message>
     <message>
         <source>充值</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufladen</translation>
     </message>
     <message>
         <source>模式名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungsname:</translation>
     </message>
     <message>
         <source>保存模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen speichern</translation>
     </message>
     <message>
         <source>退出登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmelden</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfrage fehlgeschlagen</translation>
     </message>
     <message>
         <source>请输入模式名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte einen Namen für die Voreinstellungen eingeben</translation>
     </message>
     <message>
         <source>保存成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert</translation>
     </message>
 </context>
 <context>
     <name>GengXinXiaZai</name>
     <message>
         <source>版本更新说明</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuerungen</translation>
     </message>
     <message>
         <source>立即更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt aktualisieren</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>下载完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Download abgeschlossen</translation>
     </message>
     <message>
         <source>稍后退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Später beenden</translation>
     </message>
     <message>
         <source>立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt beenden</translation>
     </message>
     <message>
         <source>请退出安装</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Installieren des Updates bitte das Programm beenden.</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Hinweis</translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
     <name>GeometryActions</name>
     <message>
         <source>偏移...</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz...</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschweißen</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtrahieren</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittmenge</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschließen</translation>
     </message>
     <message>
         <source>从最下层的图形中减去其余图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Die übrigen Objekte vom untersten Objekt abziehen</translation>
     </message>
 </context>
 <context>
@@ -900,11 +900,11 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>按颜色分图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben als Ebenen</translation>
     </message>
     <message>
         <source>导入时每种颜色放到单独的图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Import jede Farbe auf eine eigene Ebene legen</translation>
     </message>
 </context>
 <context>
@@ -934,91 +934,91 @@ Fortfahren?</translation>
     <name>Jk_deng_lu</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail:</translation>
     </message>
     <message>
         <source>密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <source>验证码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Code:</translation>
     </message>
     <message>
         <source>获取验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Code anfordern</translation>
     </message>
     <message>
         <source>验证码登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Code anmelden</translation>
     </message>
     <message>
         <source>记住密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort merken</translation>
     </message>
     <message>
         <source>注册</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrieren</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nickname:</translation>
     </message>
     <message>
         <source>确认密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort bestätigen:</translation>
     </message>
     <message>
         <source>忘记密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort vergessen</translation>
     </message>
     <message>
         <source>新密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfrage fehlgeschlagen</translation>
     </message>
     <message>
         <source>请输入邮箱</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte E-Mail-Adresse eingeben</translation>
     </message>
     <message>
         <source>验证码已发送</source>
-        <translation type="unfinished"></translation>
+        <translation>Code wurde gesendet</translation>
     </message>
     <message>
         <source>请输入邮箱和验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte E-Mail-Adresse und Code eingeben</translation>
     </message>
     <message>
         <source>请输入邮箱和密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte E-Mail-Adresse und Passwort eingeben</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte alle Felder ausfüllen</translation>
     </message>
     <message>
         <source>两次密码不一致</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Passwörter stimmen nicht überein</translation>
     </message>
     <message>
         <source>注册成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrierung erfolgreich</translation>
     </message>
     <message>
         <source>修改成功,请去登录！</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort geändert. Bitte anmelden!</translation>
     </message>
 </context>
 <context>
@@ -1130,26 +1130,26 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>(省 %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(spart %1)</translation>
     </message>
     <message>
         <source>优化切割顺序比按绘制顺序少空移 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die optimierte Schnittfolge spart %1 Leerweg gegenüber der Zeichenreihenfolge</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished">Pause</translation>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>
     <message>
         <source>剩余 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch %1</translation>
     </message>
 </context>
 <context>
@@ -1474,47 +1474,47 @@ Fortfahren?</translation>
     <name>OffsetDialog</name>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz</translation>
     </message>
     <message>
         <source>距离(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand (mm):</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach außen</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach innen</translation>
     </message>
     <message>
         <source>拐角：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecken:</translation>
     </message>
     <message>
         <source>圆角</source>
-        <translation type="unfinished"></translation>
+        <translation>Rund</translation>
     </message>
     <message>
         <source>尖角</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitz</translation>
     </message>
     <message>
         <source>方角</source>
-        <translation type="unfinished"></translation>
+        <translation>Eckig</translation>
     </message>
     <message>
         <source>保留原图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Original behalten</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1776,34 +1776,34 @@ Fortfahren?</translation>
     <name>ResumeDialog</name>
     <message>
         <source>继续作业</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag fortsetzen</translation>
     </message>
     <message>
         <source>从第几行继续:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen ab Zeile:</translation>
     </message>
     <message>
         <source>控制器已复位:请先归位或重新设置原点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Controller wurde zurückgesetzt: bitte zuerst eine Referenzfahrt ausführen oder den Nullpunkt neu setzen.</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>作业中断。从第 %1 行继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Auftrag wurde unterbrochen. Ab Zeile %1 fortsetzen?</translation>
     </message>
 </context>
 <context>
     <name>ResumeOffer</name>
     <message>
         <source>无法继续作业。</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Auftrag kann nicht fortgesetzt werden.</translation>
     </message>
 </context>
 <context>
@@ -1913,122 +1913,122 @@ Fortfahren?</translation>
     <name>Su_Cai_Shang_Chuan</name>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Design hochladen</translation>
     </message>
     <message>
         <source>标题：</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Preis:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei:</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished">Auswählen</translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>图片：</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild:</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Material:</translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags:</translation>
     </message>
     <message>
         <source>详情：</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung:</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished">Hochladen</translation>
+        <translation>Hochladen</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfrage fehlgeschlagen</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst anmelden</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte alle Felder ausfüllen</translation>
     </message>
     <message>
         <source>上传成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochgeladen</translation>
     </message>
 </context>
 <context>
     <name>Su_Cai_Xiang_Qing</name>
     <message>
         <source>素材详情</source>
-        <translation type="unfinished"></translation>
+        <translation>Design-Details</translation>
     </message>
     <message>
         <source>购买</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaufen</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished">Öffnen</translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfrage fehlgeschlagen</translation>
     </message>
     <message>
         <source>没有发现素材数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Designdaten gefunden</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte zuerst anmelden</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否购买素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Design kaufen?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Hinweis</translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>素材购买失败,请重新购买!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kauf ist fehlgeschlagen. Bitte erneut versuchen!</translation>
     </message>
     <message>
         <source>素材购买成功!</source>
-        <translation type="unfinished"></translation>
+        <translation>Design gekauft!</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2059,7 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Text(e) nicht importiert: bitte Texte im Zeichenprogramm in Pfade umwandeln und erneut importieren.</translation>
     </message>
 </context>
 <context>
@@ -2262,31 +2262,31 @@ Fortfahren?</translation>
     </message>
     <message>
         <source>曲线按 0.01 毫米精度切割</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven mit 0,01 mm Genauigkeit schneiden</translation>
     </message>
     <message>
         <source>精细曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Feine Kurven</translation>
     </message>
     <message>
         <source>切缝(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittfuge (mm):</translation>
     </message>
     <message>
         <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Schnitts: Außenkonturen werden um die Hälfte nach außen, Löcher nach innen versetzt</translation>
     </message>
     <message>
         <source>切割顺序：</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittfolge:</translation>
     </message>
     <message>
         <source>按绘制</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie gezeichnet</translation>
     </message>
     <message>
         <source>优化</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert</translation>
     </message>
 </context>
 <context>
@@ -2490,10 +2490,6 @@ Fortfahren?</translation>
         <source>工具</source>
         <translation>Werkzeuge</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -2569,59 +2565,59 @@ Fortfahren?</translation>
     <name>jk_su_cai</name>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Design-Shop</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Material:</translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Preis:</translation>
     </message>
     <message>
         <source>机型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Maschine:</translation>
     </message>
     <message>
         <source>功率：</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags:</translation>
     </message>
     <message>
         <source>上一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>下一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished">Alle</translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfrage fehlgeschlagen</translation>
     </message>
 </context>
 <context>

@@ -263,27 +263,27 @@
     <name>CloudController</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Личный кабинет</translation>
     </message>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Магазин макетов</translation>
     </message>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить макет</translation>
     </message>
     <message>
         <source>云</source>
-        <translation type="unfinished"></translation>
+        <translation>Облако</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала войдите в аккаунт</translation>
     </message>
 </context>
 <context>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>不支持二进制 DXF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Двоичные DXF-файлы не поддерживаются</translation>
     </message>
 </context>
 <context>
@@ -446,55 +446,55 @@
     </message>
     <message>
         <source>移动节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение узла</translation>
     </message>
     <message>
         <source>移动控制点</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение управляющей точки</translation>
     </message>
     <message>
         <source>添加节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавление узла</translation>
     </message>
     <message>
         <source>删除节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Удаление узла</translation>
     </message>
     <message>
         <source>转为直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Преобразование в прямую</translation>
     </message>
     <message>
         <source>转为曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Преобразование в кривую</translation>
     </message>
     <message>
         <source>断开节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Разрыв узла</translation>
     </message>
     <message>
         <source>连接节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Соединение узлов</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Объединение</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Вычитание</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересечение</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Исключение</translation>
     </message>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Смещение контура</translation>
     </message>
 </context>
 <context>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Узлы</translation>
     </message>
 </context>
 <context>
@@ -689,117 +689,117 @@
     <name>GeRenZhongXin</name>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Личный кабинет</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Никнейм:</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>Эл. почта:</translation>
     </message>
     <message>
         <source>余额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Баланс:</translation>
     </message>
     <message>
         <source>充值金额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма пополнения:</translation>
     </message>
     <message>
         <source>充值</source>
-        <translation type="unfinished"></translation>
+        <translation>Пополнить</translation>
     </message>
     <message>
         <source>模式名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя режима:</translation>
     </message>
     <message>
         <source>保存模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить режим</translation>
     </message>
     <message>
         <source>退出登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка запроса</translation>
     </message>
     <message>
         <source>请输入模式名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите имя режима</translation>
     </message>
     <message>
         <source>保存成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранено</translation>
     </message>
 </context>
 <context>
     <name>GengXinXiaZai</name>
     <message>
         <source>版本更新说明</source>
-        <translation type="unfinished"></translation>
+        <translation>Что нового в версии</translation>
     </message>
     <message>
         <source>立即更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновить сейчас</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>下载完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Скачивание завершено</translation>
     </message>
     <message>
         <source>稍后退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти позже</translation>
     </message>
     <message>
         <source>立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти сейчас</translation>
     </message>
     <message>
         <source>请退出安装</source>
-        <translation type="unfinished"></translation>
+        <translation>Закройте программу, чтобы установить обновление.</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Информация</translation>
+        <translation>Информация</translation>
     </message>
 </context>
 <context>
     <name>GeometryActions</name>
     <message>
         <source>偏移...</source>
-        <translation type="unfinished"></translation>
+        <translation>Смещение контура...</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Объединить</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Вычесть</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересечь</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Исключить</translation>
     </message>
     <message>
         <source>从最下层的图形中减去其余图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Вычесть остальные фигуры из самой нижней</translation>
     </message>
 </context>
 <context>
@@ -900,11 +900,11 @@
     </message>
     <message>
         <source>按颜色分图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Цвета по слоям</translation>
     </message>
     <message>
         <source>导入时每种颜色放到单独的图层</source>
-        <translation type="unfinished"></translation>
+        <translation>При импорте каждый цвет помещается на отдельный слой</translation>
     </message>
 </context>
 <context>
@@ -934,91 +934,91 @@
     <name>Jk_deng_lu</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>Эл. почта:</translation>
     </message>
     <message>
         <source>密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль:</translation>
     </message>
     <message>
         <source>验证码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Код:</translation>
     </message>
     <message>
         <source>获取验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Получить код</translation>
     </message>
     <message>
         <source>验证码登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по коду</translation>
     </message>
     <message>
         <source>记住密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Запомнить пароль</translation>
     </message>
     <message>
         <source>注册</source>
-        <translation type="unfinished"></translation>
+        <translation>Регистрация</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Никнейм:</translation>
     </message>
     <message>
         <source>确认密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Повтор пароля:</translation>
     </message>
     <message>
         <source>忘记密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Забыли пароль?</translation>
     </message>
     <message>
         <source>新密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый пароль:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">ОК</translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка запроса</translation>
     </message>
     <message>
         <source>请输入邮箱</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите адрес эл. почты</translation>
     </message>
     <message>
         <source>验证码已发送</source>
-        <translation type="unfinished"></translation>
+        <translation>Код отправлен</translation>
     </message>
     <message>
         <source>请输入邮箱和验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите эл. почту и код</translation>
     </message>
     <message>
         <source>请输入邮箱和密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите эл. почту и пароль</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполните все поля</translation>
     </message>
     <message>
         <source>两次密码不一致</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли не совпадают</translation>
     </message>
     <message>
         <source>注册成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Регистрация выполнена</translation>
     </message>
     <message>
         <source>修改成功,请去登录！</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль изменён. Войдите снова!</translation>
     </message>
 </context>
 <context>
@@ -1130,26 +1130,26 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Воспроизвести</translation>
     </message>
     <message>
         <source>(省 %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(экономия %1)</translation>
     </message>
     <message>
         <source>优化切割顺序比按绘制顺序少空移 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Оптимизированный порядок резки сокращает холостой ход на %1 по сравнению с порядком рисования</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished">Пауза</translation>
+        <translation>Пауза</translation>
     </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>
     <message>
         <source>剩余 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Осталось %1</translation>
     </message>
 </context>
 <context>
@@ -1474,47 +1474,47 @@
     <name>OffsetDialog</name>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Смещение контура</translation>
     </message>
     <message>
         <source>距离(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Расстояние (мм):</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Наружу</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Внутрь</translation>
     </message>
     <message>
         <source>拐角：</source>
-        <translation type="unfinished"></translation>
+        <translation>Углы:</translation>
     </message>
     <message>
         <source>圆角</source>
-        <translation type="unfinished"></translation>
+        <translation>Скруглённые</translation>
     </message>
     <message>
         <source>尖角</source>
-        <translation type="unfinished"></translation>
+        <translation>Острые</translation>
     </message>
     <message>
         <source>方角</source>
-        <translation type="unfinished"></translation>
+        <translation>Квадратные</translation>
     </message>
     <message>
         <source>保留原图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить исходную фигуру</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">ОК</translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -1776,34 +1776,34 @@
     <name>ResumeDialog</name>
     <message>
         <source>继续作业</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжение задания</translation>
     </message>
     <message>
         <source>从第几行继续:</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить со строки:</translation>
     </message>
     <message>
         <source>控制器已复位:请先归位或重新设置原点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Контроллер был сброшен: сначала выполните возврат домой или заново задайте ноль.</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished">Продолжить</translation>
+        <translation>Продолжить</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>作业中断。从第 %1 行继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Задание прервано. Продолжить со строки %1?</translation>
     </message>
 </context>
 <context>
     <name>ResumeOffer</name>
     <message>
         <source>无法继续作业。</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось продолжить задание.</translation>
     </message>
 </context>
 <context>
@@ -1913,122 +1913,122 @@
     <name>Su_Cai_Shang_Chuan</name>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка макета</translation>
     </message>
     <message>
         <source>标题：</source>
-        <translation type="unfinished"></translation>
+        <translation>Название:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Цена:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл:</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished">Выбор</translation>
+        <translation>Выбрать</translation>
     </message>
     <message>
         <source>图片：</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображение:</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Категория:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Материал:</translation>
+        <translation>Материал:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Теги:</translation>
     </message>
     <message>
         <source>详情：</source>
-        <translation type="unfinished"></translation>
+        <translation>Описание:</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished">Загрузить</translation>
+        <translation>Загрузить</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка запроса</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала войдите в аккаунт</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполните все поля</translation>
     </message>
     <message>
         <source>上传成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Загружено</translation>
     </message>
 </context>
 <context>
     <name>Su_Cai_Xiang_Qing</name>
     <message>
         <source>素材详情</source>
-        <translation type="unfinished"></translation>
+        <translation>Сведения о макете</translation>
     </message>
     <message>
         <source>购买</source>
-        <translation type="unfinished"></translation>
+        <translation>Купить</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished">Открыть</translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка запроса</translation>
     </message>
     <message>
         <source>没有发现素材数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные макета не найдены</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала войдите в аккаунт</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">ОК</translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>是否购买素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Купить этот макет?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Информация</translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>素材购买失败,请重新购买!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось купить макет. Попробуйте ещё раз!</translation>
     </message>
     <message>
         <source>素材购买成功!</source>
-        <translation type="unfinished"></translation>
+        <translation>Макет куплен!</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
-        <translation type="unfinished"></translation>
+        <translation>Не импортировано текстов: %1. Преобразуйте текст в кривые в графическом редакторе и импортируйте снова.</translation>
     </message>
 </context>
 <context>
@@ -2262,31 +2262,31 @@
     </message>
     <message>
         <source>曲线按 0.01 毫米精度切割</source>
-        <translation type="unfinished"></translation>
+        <translation>Кривые режутся с точностью 0,01 мм</translation>
     </message>
     <message>
         <source>精细曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Точные кривые</translation>
     </message>
     <message>
         <source>切缝(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ширина реза (мм):</translation>
     </message>
     <message>
         <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
-        <translation type="unfinished"></translation>
+        <translation>Ширина линии реза: внешние контуры смещаются наружу, а отверстия внутрь на половину этой величины</translation>
     </message>
     <message>
         <source>切割顺序：</source>
-        <translation type="unfinished"></translation>
+        <translation>Порядок резки:</translation>
     </message>
     <message>
         <source>按绘制</source>
-        <translation type="unfinished"></translation>
+        <translation>Как нарисовано</translation>
     </message>
     <message>
         <source>优化</source>
-        <translation type="unfinished"></translation>
+        <translation>Оптимизированный</translation>
     </message>
 </context>
 <context>
@@ -2490,10 +2490,6 @@
         <source>工具</source>
         <translation>Инструменты</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -2569,59 +2565,59 @@
     <name>jk_su_cai</name>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Магазин макетов</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Категория:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Материал:</translation>
+        <translation>Материал:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Цена:</translation>
     </message>
     <message>
         <source>机型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Модель станка:</translation>
     </message>
     <message>
         <source>功率：</source>
-        <translation type="unfinished"></translation>
+        <translation>Мощность:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Теги:</translation>
     </message>
     <message>
         <source>上一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Предыдущая</translation>
     </message>
     <message>
         <source>下一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Следующая</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished">Все</translation>
+        <translation>Все</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка запроса</translation>
     </message>
 </context>
 <context>

@@ -263,27 +263,27 @@
     <name>CloudController</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon compte</translation>
     </message>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutique de modèles</translation>
     </message>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Publier un modèle</translation>
     </message>
     <message>
         <source>云</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez-vous d&apos;abord</translation>
     </message>
 </context>
 <context>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>不支持二进制 DXF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers DXF binaires ne sont pas pris en charge</translation>
     </message>
 </context>
 <context>
@@ -446,55 +446,55 @@
     </message>
     <message>
         <source>移动节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le nœud</translation>
     </message>
     <message>
         <source>移动控制点</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le point de contrôle</translation>
     </message>
     <message>
         <source>添加节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un nœud</translation>
     </message>
     <message>
         <source>删除节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le nœud</translation>
     </message>
     <message>
         <source>转为直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en droite</translation>
     </message>
     <message>
         <source>转为曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en courbe</translation>
     </message>
     <message>
         <source>断开节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparer le nœud</translation>
     </message>
     <message>
         <source>连接节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre les nœuds</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Souder</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Soustraire</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersection</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclure</translation>
     </message>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage</translation>
     </message>
 </context>
 <context>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud</translation>
     </message>
 </context>
 <context>
@@ -689,117 +689,117 @@ Continuer&#xa0;?</translation>
     <name>GeRenZhongXin</name>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon compte</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Pseudo&#xa0;:</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>余额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Solde&#xa0;:</translation>
     </message>
     <message>
         <source>充值金额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Montant&#xa0;:</translation>
     </message>
     <message>
         <source>充值</source>
-        <translation type="unfinished"></translation>
+        <translation>Recharger</translation>
     </message>
     <message>
         <source>模式名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>保存模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les préréglages</translation>
     </message>
     <message>
         <source>退出登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la requête</translation>
     </message>
     <message>
         <source>请输入模式名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nom de préréglage</translation>
     </message>
     <message>
         <source>保存成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré</translation>
     </message>
 </context>
 <context>
     <name>GengXinXiaZai</name>
     <message>
         <source>版本更新说明</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>立即更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>下载完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement terminé</translation>
     </message>
     <message>
         <source>稍后退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter plus tard</translation>
     </message>
     <message>
         <source>立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter maintenant</translation>
     </message>
     <message>
         <source>请退出安装</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittez le programme pour installer la mise à jour.</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
     <name>GeometryActions</name>
     <message>
         <source>偏移...</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage...</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Souder</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Soustraire</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersection</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclure</translation>
     </message>
     <message>
         <source>从最下层的图形中减去其余图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Soustraire les autres formes de la forme du dessous</translation>
     </message>
 </context>
 <context>
@@ -900,11 +900,11 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>按颜色分图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs en calques</translation>
     </message>
     <message>
         <source>导入时每种颜色放到单独的图层</source>
-        <translation type="unfinished"></translation>
+        <translation>À l&apos;importation, placer chaque couleur sur son propre calque</translation>
     </message>
 </context>
 <context>
@@ -934,91 +934,91 @@ Continuer&#xa0;?</translation>
     <name>Jk_deng_lu</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>验证码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Code&#xa0;:</translation>
     </message>
     <message>
         <source>获取验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Obtenir le code</translation>
     </message>
     <message>
         <source>验证码登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion par code</translation>
     </message>
     <message>
         <source>记住密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoriser le mot de passe</translation>
     </message>
     <message>
         <source>注册</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscription</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Pseudo&#xa0;:</translation>
     </message>
     <message>
         <source>确认密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmer le mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>忘记密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe oublié</translation>
     </message>
     <message>
         <source>新密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la requête</translation>
     </message>
     <message>
         <source>请输入邮箱</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez votre e-mail</translation>
     </message>
     <message>
         <source>验证码已发送</source>
-        <translation type="unfinished"></translation>
+        <translation>Code envoyé</translation>
     </message>
     <message>
         <source>请输入邮箱和验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez l&apos;e-mail et le code</translation>
     </message>
     <message>
         <source>请输入邮箱和密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez l&apos;e-mail et le mot de passe</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissez tous les champs</translation>
     </message>
     <message>
         <source>两次密码不一致</source>
-        <translation type="unfinished"></translation>
+        <translation>Les mots de passe ne correspondent pas</translation>
     </message>
     <message>
         <source>注册成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscription réussie</translation>
     </message>
     <message>
         <source>修改成功,请去登录！</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe modifié. Connectez-vous&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -1130,26 +1130,26 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>(省 %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(−%1)</translation>
     </message>
     <message>
         <source>优化切割顺序比按绘制顺序少空移 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ordre de coupe optimisé réduit les déplacements à vide de %1 par rapport à l&apos;ordre du dessin</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished">Pause</translation>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>
     <message>
         <source>剩余 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1474,47 +1474,47 @@ Continuer&#xa0;?</translation>
     <name>OffsetDialog</name>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage</translation>
     </message>
     <message>
         <source>距离(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l&apos;extérieur</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l&apos;intérieur</translation>
     </message>
     <message>
         <source>拐角：</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles&#xa0;:</translation>
     </message>
     <message>
         <source>圆角</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrondis</translation>
     </message>
     <message>
         <source>尖角</source>
-        <translation type="unfinished"></translation>
+        <translation>Vifs</translation>
     </message>
     <message>
         <source>方角</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrés</translation>
     </message>
     <message>
         <source>保留原图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder l&apos;original</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1776,34 +1776,34 @@ Continuer&#xa0;?</translation>
     <name>ResumeDialog</name>
     <message>
         <source>继续作业</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre le travail</translation>
     </message>
     <message>
         <source>从第几行继续:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre à la ligne&#xa0;:</translation>
     </message>
     <message>
         <source>控制器已复位:请先归位或重新设置原点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contrôleur a été réinitialisé&#xa0;: faites d&apos;abord un homing ou redéfinissez l&apos;origine.</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>作业中断。从第 %1 行继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le travail a été interrompu. Reprendre à la ligne %1&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>ResumeOffer</name>
     <message>
         <source>无法继续作业。</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de reprendre le travail.</translation>
     </message>
 </context>
 <context>
@@ -1913,122 +1913,122 @@ Continuer&#xa0;?</translation>
     <name>Su_Cai_Shang_Chuan</name>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Publier un modèle</translation>
     </message>
     <message>
         <source>标题：</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre&#xa0;:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Prix&#xa0;:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier&#xa0;:</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished">Sélectionner</translation>
+        <translation>Choisir</translation>
     </message>
     <message>
         <source>图片：</source>
-        <translation type="unfinished"></translation>
+        <translation>Image&#xa0;:</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie&#xa0;:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Matériau&#xa0;:</translation>
+        <translation>Matériau&#xa0;:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots-clés&#xa0;:</translation>
     </message>
     <message>
         <source>详情：</source>
-        <translation type="unfinished"></translation>
+        <translation>Description&#xa0;:</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished">Envoyer</translation>
+        <translation>Publier</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la requête</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez-vous d&apos;abord</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissez tous les champs</translation>
     </message>
     <message>
         <source>上传成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle publié</translation>
     </message>
 </context>
 <context>
     <name>Su_Cai_Xiang_Qing</name>
     <message>
         <source>素材详情</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails du modèle</translation>
     </message>
     <message>
         <source>购买</source>
-        <translation type="unfinished"></translation>
+        <translation>Acheter</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished">Ouvrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la requête</translation>
     </message>
     <message>
         <source>没有发现素材数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune donnée de modèle trouvée</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez-vous d&apos;abord</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否购买素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Acheter ce modèle&#xa0;?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>素材购买失败,请重新购买!</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;achat a échoué. Veuillez réessayer&#xa0;!</translation>
     </message>
     <message>
         <source>素材购买成功!</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle acheté&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2059,7 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 texte(s) non importé(s)&#xa0;: convertissez les textes en chemins dans votre logiciel de dessin, puis importez à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -2262,31 +2262,31 @@ Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>曲线按 0.01 毫米精度切割</source>
-        <translation type="unfinished"></translation>
+        <translation>Découper les courbes avec une précision de 0,01 mm</translation>
     </message>
     <message>
         <source>精细曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Courbes fines</translation>
     </message>
     <message>
         <source>切缝(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Saignée (mm)&#xa0;:</translation>
     </message>
     <message>
         <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de coupe&#xa0;: les contours extérieurs sont décalés de la moitié vers l&apos;extérieur, les trous vers l&apos;intérieur</translation>
     </message>
     <message>
         <source>切割顺序：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de coupe&#xa0;:</translation>
     </message>
     <message>
         <source>按绘制</source>
-        <translation type="unfinished"></translation>
+        <translation>Tel que dessiné</translation>
     </message>
     <message>
         <source>优化</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimisé</translation>
     </message>
 </context>
 <context>
@@ -2490,10 +2490,6 @@ Continuer&#xa0;?</translation>
         <source>工具</source>
         <translation>Outils</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -2569,59 +2565,59 @@ Continuer&#xa0;?</translation>
     <name>jk_su_cai</name>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutique de modèles</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie&#xa0;:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier&#xa0;:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Matériau&#xa0;:</translation>
+        <translation>Matériau&#xa0;:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Prix&#xa0;:</translation>
     </message>
     <message>
         <source>机型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Machine&#xa0;:</translation>
     </message>
     <message>
         <source>功率：</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance&#xa0;:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots-clés&#xa0;:</translation>
     </message>
     <message>
         <source>上一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>下一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished">Tous</translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la requête</translation>
     </message>
 </context>
 <context>

@@ -263,27 +263,27 @@
     <name>CloudController</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>로그인</translation>
     </message>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>내 계정</translation>
     </message>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 스토어</translation>
     </message>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 업로드</translation>
     </message>
     <message>
         <source>云</source>
-        <translation type="unfinished"></translation>
+        <translation>클라우드</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 로그인하세요</translation>
     </message>
 </context>
 <context>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>不支持二进制 DXF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>바이너리 DXF 파일은 지원되지 않습니다</translation>
     </message>
 </context>
 <context>
@@ -446,55 +446,55 @@
     </message>
     <message>
         <source>移动节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 이동</translation>
     </message>
     <message>
         <source>移动控制点</source>
-        <translation type="unfinished"></translation>
+        <translation>제어점 이동</translation>
     </message>
     <message>
         <source>添加节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 추가</translation>
     </message>
     <message>
         <source>删除节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 삭제</translation>
     </message>
     <message>
         <source>转为直线</source>
-        <translation type="unfinished"></translation>
+        <translation>직선으로 변환</translation>
     </message>
     <message>
         <source>转为曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>곡선으로 변환</translation>
     </message>
     <message>
         <source>断开节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 끊기</translation>
     </message>
     <message>
         <source>连接节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 연결</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>용접</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>빼기</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>교차</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>제외</translation>
     </message>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>오프셋</translation>
     </message>
 </context>
 <context>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>节点</source>
-        <translation type="unfinished"></translation>
+        <translation>노드</translation>
     </message>
 </context>
 <context>
@@ -689,117 +689,117 @@
     <name>GeRenZhongXin</name>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>내 계정</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>닉네임:</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일:</translation>
     </message>
     <message>
         <source>余额：</source>
-        <translation type="unfinished"></translation>
+        <translation>잔액:</translation>
     </message>
     <message>
         <source>充值金额：</source>
-        <translation type="unfinished"></translation>
+        <translation>충전 금액:</translation>
     </message>
     <message>
         <source>充值</source>
-        <translation type="unfinished"></translation>
+        <translation>충전</translation>
     </message>
     <message>
         <source>模式名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>모드 이름:</translation>
     </message>
     <message>
         <source>保存模式</source>
-        <translation type="unfinished"></translation>
+        <translation>모드 저장</translation>
     </message>
     <message>
         <source>退出登录</source>
-        <translation type="unfinished"></translation>
+        <translation>로그아웃</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 실패</translation>
     </message>
     <message>
         <source>请输入模式名称</source>
-        <translation type="unfinished"></translation>
+        <translation>모드 이름을 입력하세요</translation>
     </message>
     <message>
         <source>保存成功</source>
-        <translation type="unfinished"></translation>
+        <translation>저장되었습니다</translation>
     </message>
 </context>
 <context>
     <name>GengXinXiaZai</name>
     <message>
         <source>版本更新说明</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 내용</translation>
     </message>
     <message>
         <source>立即更新</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 업데이트</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>下载完成</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드 완료</translation>
     </message>
     <message>
         <source>稍后退出</source>
-        <translation type="unfinished"></translation>
+        <translation>나중에 종료</translation>
     </message>
     <message>
         <source>立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 종료</translation>
     </message>
     <message>
         <source>请退出安装</source>
-        <translation type="unfinished"></translation>
+        <translation>설치하려면 프로그램을 종료하세요</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">알림</translation>
+        <translation>알림</translation>
     </message>
 </context>
 <context>
     <name>GeometryActions</name>
     <message>
         <source>偏移...</source>
-        <translation type="unfinished"></translation>
+        <translation>오프셋...</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>용접</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>빼기</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>교차</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>제외</translation>
     </message>
     <message>
         <source>从最下层的图形中减去其余图形</source>
-        <translation type="unfinished"></translation>
+        <translation>맨 아래 도형에서 나머지 도형을 뺍니다</translation>
     </message>
 </context>
 <context>
@@ -900,11 +900,11 @@
     </message>
     <message>
         <source>按颜色分图层</source>
-        <translation type="unfinished"></translation>
+        <translation>색상별 레이어</translation>
     </message>
     <message>
         <source>导入时每种颜色放到单独的图层</source>
-        <translation type="unfinished"></translation>
+        <translation>가져올 때 색상마다 별도의 레이어에 넣습니다</translation>
     </message>
 </context>
 <context>
@@ -934,91 +934,91 @@
     <name>Jk_deng_lu</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>로그인</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일:</translation>
     </message>
     <message>
         <source>密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호:</translation>
     </message>
     <message>
         <source>验证码：</source>
-        <translation type="unfinished"></translation>
+        <translation>인증 코드:</translation>
     </message>
     <message>
         <source>获取验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>코드 받기</translation>
     </message>
     <message>
         <source>验证码登录</source>
-        <translation type="unfinished"></translation>
+        <translation>코드로 로그인</translation>
     </message>
     <message>
         <source>记住密码</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호 저장</translation>
     </message>
     <message>
         <source>注册</source>
-        <translation type="unfinished"></translation>
+        <translation>회원가입</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>닉네임:</translation>
     </message>
     <message>
         <source>确认密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호 확인:</translation>
     </message>
     <message>
         <source>忘记密码</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호 찾기</translation>
     </message>
     <message>
         <source>新密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>새 비밀번호:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">확인</translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 실패</translation>
     </message>
     <message>
         <source>请输入邮箱</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일을 입력하세요</translation>
     </message>
     <message>
         <source>验证码已发送</source>
-        <translation type="unfinished"></translation>
+        <translation>인증 코드를 보냈습니다</translation>
     </message>
     <message>
         <source>请输入邮箱和验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일과 인증 코드를 입력하세요</translation>
     </message>
     <message>
         <source>请输入邮箱和密码</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일과 비밀번호를 입력하세요</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 항목을 입력하세요</translation>
     </message>
     <message>
         <source>两次密码不一致</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호가 일치하지 않습니다</translation>
     </message>
     <message>
         <source>注册成功</source>
-        <translation type="unfinished"></translation>
+        <translation>가입되었습니다</translation>
     </message>
     <message>
         <source>修改成功,请去登录！</source>
-        <translation type="unfinished"></translation>
+        <translation>비밀번호가 변경되었습니다. 로그인하세요!</translation>
     </message>
 </context>
 <context>
@@ -1130,26 +1130,26 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>재생</translation>
     </message>
     <message>
         <source>(省 %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(%1 절약)</translation>
     </message>
     <message>
         <source>优化切割顺序比按绘制顺序少空移 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>최적화된 컷 순서는 그린 순서보다 이동 거리가 %1 짧습니다</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished">일시정지</translation>
+        <translation>일시정지</translation>
     </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>
     <message>
         <source>剩余 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>남은 시간 %1</translation>
     </message>
 </context>
 <context>
@@ -1474,47 +1474,47 @@
     <name>OffsetDialog</name>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>오프셋</translation>
     </message>
     <message>
         <source>距离(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>거리 (mm):</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>바깥쪽</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>안쪽</translation>
     </message>
     <message>
         <source>拐角：</source>
-        <translation type="unfinished"></translation>
+        <translation>모서리:</translation>
     </message>
     <message>
         <source>圆角</source>
-        <translation type="unfinished"></translation>
+        <translation>둥글게</translation>
     </message>
     <message>
         <source>尖角</source>
-        <translation type="unfinished"></translation>
+        <translation>뾰족하게</translation>
     </message>
     <message>
         <source>方角</source>
-        <translation type="unfinished"></translation>
+        <translation>각지게</translation>
     </message>
     <message>
         <source>保留原图形</source>
-        <translation type="unfinished"></translation>
+        <translation>원본 도형 유지</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">확인</translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -1776,34 +1776,34 @@
     <name>ResumeDialog</name>
     <message>
         <source>继续作业</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 재개</translation>
     </message>
     <message>
         <source>从第几行继续:</source>
-        <translation type="unfinished"></translation>
+        <translation>재개할 줄:</translation>
     </message>
     <message>
         <source>控制器已复位:请先归位或重新设置原点。</source>
-        <translation type="unfinished"></translation>
+        <translation>컨트롤러가 리셋되었습니다. 먼저 홈으로 이동하거나 원점을 다시 설정하세요.</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>재개</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>作业中断。从第 %1 行继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>작업이 중단되었습니다. %1번째 줄부터 재개하시겠습니까?</translation>
     </message>
 </context>
 <context>
     <name>ResumeOffer</name>
     <message>
         <source>无法继续作业。</source>
-        <translation type="unfinished"></translation>
+        <translation>작업을 재개할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1913,122 +1913,122 @@
     <name>Su_Cai_Shang_Chuan</name>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 업로드</translation>
     </message>
     <message>
         <source>标题：</source>
-        <translation type="unfinished"></translation>
+        <translation>제목:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>가격:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>파일:</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished">선택</translation>
+        <translation>선택</translation>
     </message>
     <message>
         <source>图片：</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지:</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>카테고리:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">재료:</translation>
+        <translation>재료:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>태그:</translation>
     </message>
     <message>
         <source>详情：</source>
-        <translation type="unfinished"></translation>
+        <translation>설명:</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished">업로드</translation>
+        <translation>업로드</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 실패</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 로그인하세요</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 항목을 입력하세요</translation>
     </message>
     <message>
         <source>上传成功</source>
-        <translation type="unfinished"></translation>
+        <translation>업로드되었습니다</translation>
     </message>
 </context>
 <context>
     <name>Su_Cai_Xiang_Qing</name>
     <message>
         <source>素材详情</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 상세</translation>
     </message>
     <message>
         <source>购买</source>
-        <translation type="unfinished"></translation>
+        <translation>구매</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished">열기</translation>
+        <translation>열기</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 실패</translation>
     </message>
     <message>
         <source>没有发现素材数据</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 데이터를 찾을 수 없습니다</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 로그인하세요</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">확인</translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>是否购买素材</source>
-        <translation type="unfinished"></translation>
+        <translation>이 디자인을 구매하시겠습니까?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">알림</translation>
+        <translation>알림</translation>
     </message>
     <message>
         <source>素材购买失败,请重新购买!</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 구매에 실패했습니다. 다시 구매하세요!</translation>
     </message>
     <message>
         <source>素材购买成功!</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인을 구매했습니다!</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트 %1개를 가져오지 않았습니다. 그리기 프로그램에서 텍스트를 패스로 변환한 후 가져오세요.</translation>
     </message>
 </context>
 <context>
@@ -2262,31 +2262,31 @@
     </message>
     <message>
         <source>曲线按 0.01 毫米精度切割</source>
-        <translation type="unfinished"></translation>
+        <translation>곡선을 0.01mm 정밀도로 컷합니다</translation>
     </message>
     <message>
         <source>精细曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>정밀 곡선</translation>
     </message>
     <message>
         <source>切缝(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>커프 (mm):</translation>
     </message>
     <message>
         <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
-        <translation type="unfinished"></translation>
+        <translation>컷 폭: 바깥 윤곽은 바깥쪽으로, 구멍은 안쪽으로 절반씩 오프셋합니다</translation>
     </message>
     <message>
         <source>切割顺序：</source>
-        <translation type="unfinished"></translation>
+        <translation>컷 순서:</translation>
     </message>
     <message>
         <source>按绘制</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 순서</translation>
     </message>
     <message>
         <source>优化</source>
-        <translation type="unfinished"></translation>
+        <translation>최적화</translation>
     </message>
 </context>
 <context>
@@ -2490,10 +2490,6 @@
         <source>工具</source>
         <translation>도구</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -2569,59 +2565,59 @@
     <name>jk_su_cai</name>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>디자인 스토어</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>검색</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>카테고리:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>파일:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">재료:</translation>
+        <translation>재료:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>가격:</translation>
     </message>
     <message>
         <source>机型：</source>
-        <translation type="unfinished"></translation>
+        <translation>기종:</translation>
     </message>
     <message>
         <source>功率：</source>
-        <translation type="unfinished"></translation>
+        <translation>파워:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>태그:</translation>
     </message>
     <message>
         <source>上一页</source>
-        <translation type="unfinished"></translation>
+        <translation>이전</translation>
     </message>
     <message>
         <source>下一页</source>
-        <translation type="unfinished"></translation>
+        <translation>다음</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished">전체</translation>
+        <translation>전체</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 실패</translation>
     </message>
 </context>
 <context>

@@ -263,27 +263,27 @@
     <name>CloudController</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar</translation>
     </message>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Minha conta</translation>
     </message>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Loja de designs</translation>
     </message>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar design</translation>
     </message>
     <message>
         <source>云</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuvem</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Faça login primeiro</translation>
     </message>
 </context>
 <context>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>不支持二进制 DXF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos DXF binários não são suportados</translation>
     </message>
 </context>
 <context>
@@ -446,55 +446,55 @@
     </message>
     <message>
         <source>移动节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover nó</translation>
     </message>
     <message>
         <source>移动控制点</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover ponto de controle</translation>
     </message>
     <message>
         <source>添加节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar nó</translation>
     </message>
     <message>
         <source>删除节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir nó</translation>
     </message>
     <message>
         <source>转为直线</source>
-        <translation type="unfinished"></translation>
+        <translation>Converter em reta</translation>
     </message>
     <message>
         <source>转为曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Converter em curva</translation>
     </message>
     <message>
         <source>断开节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Quebrar nó</translation>
     </message>
     <message>
         <source>连接节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir nós</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Soldar</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtrair</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersectar</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir sobreposição</translation>
     </message>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar contorno</translation>
     </message>
 </context>
 <context>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>节点</source>
-        <translation type="unfinished"></translation>
+        <translation>Nós</translation>
     </message>
 </context>
 <context>
@@ -689,117 +689,117 @@ Continuar?</translation>
     <name>GeRenZhongXin</name>
     <message>
         <source>个人中心</source>
-        <translation type="unfinished"></translation>
+        <translation>Minha conta</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Apelido:</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail:</translation>
     </message>
     <message>
         <source>余额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo:</translation>
     </message>
     <message>
         <source>充值金额：</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor da recarga:</translation>
     </message>
     <message>
         <source>充值</source>
-        <translation type="unfinished"></translation>
+        <translation>Recarregar</translation>
     </message>
     <message>
         <source>模式名称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do modo:</translation>
     </message>
     <message>
         <source>保存模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar modo</translation>
     </message>
     <message>
         <source>退出登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair da conta</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na solicitação</translation>
     </message>
     <message>
         <source>请输入模式名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o nome do modo</translation>
     </message>
     <message>
         <source>保存成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvo com sucesso</translation>
     </message>
 </context>
 <context>
     <name>GengXinXiaZai</name>
     <message>
         <source>版本更新说明</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas da versão</translation>
     </message>
     <message>
         <source>立即更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar agora</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>下载完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Download concluído</translation>
     </message>
     <message>
         <source>稍后退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair depois</translation>
     </message>
     <message>
         <source>立即退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair agora</translation>
     </message>
     <message>
         <source>请退出安装</source>
-        <translation type="unfinished"></translation>
+        <translation>Feche o programa para instalar a atualização.</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Aviso</translation>
+        <translation>Aviso</translation>
     </message>
 </context>
 <context>
     <name>GeometryActions</name>
     <message>
         <source>偏移...</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar contorno...</translation>
     </message>
     <message>
         <source>焊接</source>
-        <translation type="unfinished"></translation>
+        <translation>Soldar</translation>
     </message>
     <message>
         <source>修剪</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtrair</translation>
     </message>
     <message>
         <source>相交</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersectar</translation>
     </message>
     <message>
         <source>排除</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir sobreposição</translation>
     </message>
     <message>
         <source>从最下层的图形中减去其余图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtrai as demais formas da que está mais abaixo</translation>
     </message>
 </context>
 <context>
@@ -900,11 +900,11 @@ Continuar?</translation>
     </message>
     <message>
         <source>按颜色分图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Cores em camadas</translation>
     </message>
     <message>
         <source>导入时每种颜色放到单独的图层</source>
-        <translation type="unfinished"></translation>
+        <translation>Ao importar, cada cor vai para uma camada própria</translation>
     </message>
 </context>
 <context>
@@ -934,91 +934,91 @@ Continuar?</translation>
     <name>Jk_deng_lu</name>
     <message>
         <source>登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar</translation>
     </message>
     <message>
         <source>邮箱：</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail:</translation>
     </message>
     <message>
         <source>密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha:</translation>
     </message>
     <message>
         <source>验证码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Código:</translation>
     </message>
     <message>
         <source>获取验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Obter código</translation>
     </message>
     <message>
         <source>验证码登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar com código</translation>
     </message>
     <message>
         <source>记住密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Lembrar senha</translation>
     </message>
     <message>
         <source>注册</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadastrar</translation>
     </message>
     <message>
         <source>昵称：</source>
-        <translation type="unfinished"></translation>
+        <translation>Apelido:</translation>
     </message>
     <message>
         <source>确认密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar senha:</translation>
     </message>
     <message>
         <source>忘记密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Esqueci a senha</translation>
     </message>
     <message>
         <source>新密码：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova senha:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na solicitação</translation>
     </message>
     <message>
         <source>请输入邮箱</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o e-mail</translation>
     </message>
     <message>
         <source>验证码已发送</source>
-        <translation type="unfinished"></translation>
+        <translation>Código enviado</translation>
     </message>
     <message>
         <source>请输入邮箱和验证码</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o e-mail e o código</translation>
     </message>
     <message>
         <source>请输入邮箱和密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o e-mail e a senha</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Preencha todos os campos</translation>
     </message>
     <message>
         <source>两次密码不一致</source>
-        <translation type="unfinished"></translation>
+        <translation>As senhas não coincidem</translation>
     </message>
     <message>
         <source>注册成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadastro concluído</translation>
     </message>
     <message>
         <source>修改成功,请去登录！</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha alterada. Faça login!</translation>
     </message>
 </context>
 <context>
@@ -1130,26 +1130,26 @@ Continuar?</translation>
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir</translation>
     </message>
     <message>
         <source>(省 %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(economiza %1)</translation>
     </message>
     <message>
         <source>优化切割顺序比按绘制顺序少空移 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A ordem de corte otimizada reduz o deslocamento em %1 em relação à ordem do desenho</translation>
     </message>
     <message>
         <source>暂停</source>
-        <translation type="unfinished">Pausar</translation>
+        <translation>Pausar</translation>
     </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>
     <message>
         <source>剩余 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltam %1</translation>
     </message>
 </context>
 <context>
@@ -1474,47 +1474,47 @@ Continuar?</translation>
     <name>OffsetDialog</name>
     <message>
         <source>偏移</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar contorno</translation>
     </message>
     <message>
         <source>距离(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Distância (mm):</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Para fora</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Para dentro</translation>
     </message>
     <message>
         <source>拐角：</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantos:</translation>
     </message>
     <message>
         <source>圆角</source>
-        <translation type="unfinished"></translation>
+        <translation>Arredondados</translation>
     </message>
     <message>
         <source>尖角</source>
-        <translation type="unfinished"></translation>
+        <translation>Vivos</translation>
     </message>
     <message>
         <source>方角</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrados</translation>
     </message>
     <message>
         <source>保留原图形</source>
-        <translation type="unfinished"></translation>
+        <translation>Manter a forma original</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1776,34 +1776,34 @@ Continuar?</translation>
     <name>ResumeDialog</name>
     <message>
         <source>继续作业</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomar trabalho</translation>
     </message>
     <message>
         <source>从第几行继续:</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomar da linha:</translation>
     </message>
     <message>
         <source>控制器已复位:请先归位或重新设置原点。</source>
-        <translation type="unfinished"></translation>
+        <translation>O controlador foi reiniciado: primeiro faça o Home ou defina a origem novamente.</translation>
     </message>
     <message>
         <source>继续</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomar</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>作业中断。从第 %1 行继续?</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabalho interrompido. Retomar da linha %1?</translation>
     </message>
 </context>
 <context>
     <name>ResumeOffer</name>
     <message>
         <source>无法继续作业。</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível retomar o trabalho.</translation>
     </message>
 </context>
 <context>
@@ -1913,122 +1913,122 @@ Continuar?</translation>
     <name>Su_Cai_Shang_Chuan</name>
     <message>
         <source>上传素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar design</translation>
     </message>
     <message>
         <source>标题：</source>
-        <translation type="unfinished"></translation>
+        <translation>Título:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Preço:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo:</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation type="unfinished">Selecionar</translation>
+        <translation>Escolher</translation>
     </message>
     <message>
         <source>图片：</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem:</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoria:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Material:</translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags:</translation>
     </message>
     <message>
         <source>详情：</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrição:</translation>
     </message>
     <message>
         <source>上传</source>
-        <translation type="unfinished">Enviar</translation>
+        <translation>Enviar</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na solicitação</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Faça login primeiro</translation>
     </message>
     <message>
         <source>请填写完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Preencha todos os campos</translation>
     </message>
     <message>
         <source>上传成功</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviado com sucesso</translation>
     </message>
 </context>
 <context>
     <name>Su_Cai_Xiang_Qing</name>
     <message>
         <source>素材详情</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalhes do design</translation>
     </message>
     <message>
         <source>购买</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprar</translation>
     </message>
     <message>
         <source>打开</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na solicitação</translation>
     </message>
     <message>
         <source>没有发现素材数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Dados do design não encontrados</translation>
     </message>
     <message>
         <source>请先登录</source>
-        <translation type="unfinished"></translation>
+        <translation>Faça login primeiro</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished">OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>是否购买素材</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprar este design?</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished">Aviso</translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>素材购买失败,请重新购买!</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na compra do design. Tente novamente!</translation>
     </message>
     <message>
         <source>素材购买成功!</source>
-        <translation type="unfinished"></translation>
+        <translation>Design comprado!</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2059,7 @@ Continuar?</translation>
     </message>
     <message>
         <source>%1 个文字未导入:请在绘图软件中把文字转换为路径后再导入。</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 texto(s) não importado(s): converta o texto em curvas no seu programa de desenho e importe novamente.</translation>
     </message>
 </context>
 <context>
@@ -2262,31 +2262,31 @@ Continuar?</translation>
     </message>
     <message>
         <source>曲线按 0.01 毫米精度切割</source>
-        <translation type="unfinished"></translation>
+        <translation>As curvas são cortadas com precisão de 0,01 mm</translation>
     </message>
     <message>
         <source>精细曲线</source>
-        <translation type="unfinished"></translation>
+        <translation>Curvas finas</translation>
     </message>
     <message>
         <source>切缝(mm)：</source>
-        <translation type="unfinished"></translation>
+        <translation>Largura de corte (mm):</translation>
     </message>
     <message>
         <source>切割线宽：外轮廓向外、孔向内各偏移一半</source>
-        <translation type="unfinished"></translation>
+        <translation>Largura da linha de corte: os contornos externos são deslocados para fora e os furos para dentro, pela metade desse valor</translation>
     </message>
     <message>
         <source>切割顺序：</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordem de corte:</translation>
     </message>
     <message>
         <source>按绘制</source>
-        <translation type="unfinished"></translation>
+        <translation>Como desenhado</translation>
     </message>
     <message>
         <source>优化</source>
-        <translation type="unfinished"></translation>
+        <translation>Otimizado</translation>
     </message>
 </context>
 <context>
@@ -2490,10 +2490,6 @@ Continuar?</translation>
         <source>工具</source>
         <translation>Ferramentas</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>
@@ -2569,59 +2565,59 @@ Continuar?</translation>
     <name>jk_su_cai</name>
     <message>
         <source>素材商城</source>
-        <translation type="unfinished"></translation>
+        <translation>Loja de designs</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesquisar</translation>
     </message>
     <message>
         <source>分类：</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoria:</translation>
     </message>
     <message>
         <source>文件：</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo:</translation>
     </message>
     <message>
         <source>材料：</source>
-        <translation type="unfinished">Material:</translation>
+        <translation>Material:</translation>
     </message>
     <message>
         <source>价格：</source>
-        <translation type="unfinished"></translation>
+        <translation>Preço:</translation>
     </message>
     <message>
         <source>机型：</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo da máquina:</translation>
     </message>
     <message>
         <source>功率：</source>
-        <translation type="unfinished"></translation>
+        <translation>Potência:</translation>
     </message>
     <message>
         <source>标签：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags:</translation>
     </message>
     <message>
         <source>上一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>下一页</source>
-        <translation type="unfinished"></translation>
+        <translation>Próxima</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished">Todos</translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>请求失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na solicitação</translation>
     </message>
 </context>
 <context>

@@ -2490,10 +2490,6 @@
         <source>工具</source>
         <translation>工具</translation>
     </message>
-    <message>
-        <source>路径运算</source>
-        <translation>路径运算</translation>
-    </message>
 </context>
 <context>
     <name>WifiLinkController</name>

@@ -218,7 +218,7 @@ void TestResumeOffer::offerAfterAnInterruption()
 void TestResumeOffer::timeLeftWhileRunning()
 {
     GrblFake::Options o;
-    o.motionMsPerLine = 25;
+    o.motionMsPerLine = 60; // long enough to be seen on a busy machine
     GrblFake fake(o);
     // Made with the window, before the link exists.
     JobTimeDisplay display(m_controller.get(), m_panel.get());
