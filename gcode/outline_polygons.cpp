@@ -1,30 +1,12 @@
 #include "outline_polygons.h"
 
-#include <QVarLengthArray>
+#include "cubic_flattening.h"
+
 #include <cmath>
 
 namespace lumitra {
 
 namespace {
-
-constexpr int kMaxSplitDepth = 16;
-
-struct CubicPiece
-{
-    QPointF p0, c1, c2, p3;
-    int depth;
-};
-
-// Distance of `p` from the line through a and b (or from a when they meet).
-double offChord(const QPointF &p, const QPointF &a, const QPointF &b)
-{
-    const double dx = b.x() - a.x();
-    const double dy = b.y() - a.y();
-    const double len = std::hypot(dx, dy);
-    if (len == 0)
-        return std::hypot(p.x() - a.x(), p.y() - a.y());
-    return std::fabs((p.x() - a.x()) * dy - (p.y() - a.y()) * dx) / len;
-}
 
 void closeInto(QPolygonF &subpath, QVector<QPolygonF> &out)
 {
@@ -44,27 +26,7 @@ void closeInto(QPolygonF &subpath, QVector<QPolygonF> &out)
 void flattenCubic(const QPointF &p0, const QPointF &c1, const QPointF &c2, const QPointF &p3,
                   double tolerance, QPolygonF &out)
 {
-    // Depth-first with the earlier half on top, so points come out in order.
-    QVarLengthArray<CubicPiece, 2 * kMaxSplitDepth + 2> stack;
-    stack.append({p0, c1, c2, p3, 0});
-    while (!stack.isEmpty()) {
-        const CubicPiece c = stack.last();
-        stack.removeLast();
-        const bool flat =
-            offChord(c.c1, c.p0, c.p3) <= tolerance && offChord(c.c2, c.p0, c.p3) <= tolerance;
-        if (flat || c.depth >= kMaxSplitDepth) {
-            out.append(c.p3);
-            continue;
-        }
-        const QPointF a = (c.p0 + c.c1) / 2;
-        const QPointF b = (c.c1 + c.c2) / 2;
-        const QPointF d = (c.c2 + c.p3) / 2;
-        const QPointF ab = (a + b) / 2;
-        const QPointF bd = (b + d) / 2;
-        const QPointF mid = (ab + bd) / 2;
-        stack.append({mid, bd, d, c.p3, c.depth + 1});
-        stack.append({c.p0, a, ab, mid, c.depth + 1});
-    }
+    flattenCubicPoints(p0, c1, c2, p3, tolerance, [&out](const QPointF &p) { out.append(p); });
 }
 
 QVector<QPolygonF> closedPolygons(const QPainterPath &path, double tolerance)

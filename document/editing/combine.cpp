@@ -146,37 +146,13 @@ QList<QPainterPath> breakApartOutline(const QPainterPath &path)
     return groups;
 }
 
-namespace {
-
-QList<Jk_tu_yuan *> vectorItems(const QList<Jk_tu_yuan *> &items)
-{
-    QList<Jk_tu_yuan *> list;
-    for (Jk_tu_yuan *item : items) {
-        if (item && !item->is_bitmap)
-            list.append(item);
-    }
-    return list;
-}
-
-bool shareTransform(const QList<Jk_tu_yuan *> &items)
-{
-    for (const Jk_tu_yuan *item : items) {
-        if (item->transform() != items.first()->transform()
-            || item->jiao_du != items.first()->jiao_du)
-            return false;
-    }
-    return items.first()->transform().isInvertible();
-}
-
-} // namespace
-
 Jk_tu_yuan *combineItems(const QList<Jk_tu_yuan *> &items)
 {
-    const QList<Jk_tu_yuan *> parts = vectorItems(items);
+    const QList<Jk_tu_yuan *> parts = vectorItemsOf(items);
     if (parts.size() < 2)
         return nullptr;
     const Jk_tu_yuan *first = parts.first();
-    const bool keepFrame = shareTransform(parts);
+    const bool keepFrame = shareItemFrame(parts);
     QTransform toFrame; // scene -> new item coordinates
     QPointF pos;
     if (keepFrame) {
@@ -225,7 +201,7 @@ QUndoCommand *makeCombineCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *>
     if (!combined)
         return nullptr;
     combined->setSelected(true);
-    return makeReplaceItemsCommand(scene, vectorItems(items), {combined},
+    return makeReplaceItemsCommand(scene, vectorItemsOf(items), {combined},
                                    QCoreApplication::translate("EditCommand", "组合"));
 }
 

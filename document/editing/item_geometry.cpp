@@ -117,4 +117,26 @@ Jk_tu_yuan *cloneItem(const Jk_tu_yuan *item)
     return copy;
 }
 
+QList<Jk_tu_yuan *> vectorItemsOf(const QList<Jk_tu_yuan *> &items)
+{
+    QList<Jk_tu_yuan *> list;
+    for (Jk_tu_yuan *item : items) {
+        if (item && !item->is_bitmap)
+            list.append(item);
+    }
+    return list;
+}
+
+bool shareItemFrame(const QList<Jk_tu_yuan *> &items)
+{
+    if (items.isEmpty())
+        return false;
+    for (const Jk_tu_yuan *item : items) {
+        if (item->transform() != items.first()->transform()
+            || item->jiao_du != items.first()->jiao_du)
+            return false;
+    }
+    return items.first()->transform().isInvertible();
+}
+
 } // namespace lumitra

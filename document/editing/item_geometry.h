@@ -65,4 +65,10 @@ void fitItemsTo(const QList<Jk_tu_yuan *> &items, const QRectF &target, bool kee
 // selected.
 Jk_tu_yuan *cloneItem(const Jk_tu_yuan *item);
 
+// The vector items of `items` (bitmaps left out), in order.
+QList<Jk_tu_yuan *> vectorItemsOf(const QList<Jk_tu_yuan *> &items);
+// True when every item has the first one's transform and turn, and that
+// transform can be undone: their outlines can be joined in its frame.
+bool shareItemFrame(const QList<Jk_tu_yuan *> &items);
+
 } // namespace lumitra

@@ -11,26 +11,6 @@ namespace lumitra {
 
 namespace {
 
-QList<Jk_tu_yuan *> vectorItems(const QList<Jk_tu_yuan *> &items)
-{
-    QList<Jk_tu_yuan *> list;
-    for (Jk_tu_yuan *item : items) {
-        if (item && !item->is_bitmap)
-            list.append(item);
-    }
-    return list;
-}
-
-bool shareTransform(const QList<Jk_tu_yuan *> &items)
-{
-    for (const Jk_tu_yuan *item : items) {
-        if (item->transform() != items.first()->transform()
-            || item->jiao_du != items.first()->jiao_du)
-            return false;
-    }
-    return items.first()->transform().isInvertible();
-}
-
 QString operationText(BooleanOperation operation)
 {
     switch (operation) {
@@ -68,7 +48,7 @@ QUndoCommand *makeOffsetCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> 
         return nullptr;
     QList<Jk_tu_yuan *> changed;
     QList<QPainterPath> outlines;
-    for (Jk_tu_yuan *item : vectorItems(items)) {
+    for (Jk_tu_yuan *item : vectorItemsOf(items)) {
         const QPainterPath outline = offsetItemOutline(item, settings);
         if (outline.isEmpty())
             continue;
@@ -106,11 +86,11 @@ QUndoCommand *makeOffsetCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *> 
 
 Jk_tu_yuan *booleanItem(const QList<Jk_tu_yuan *> &items, BooleanOperation operation)
 {
-    const QList<Jk_tu_yuan *> parts = vectorItems(items);
+    const QList<Jk_tu_yuan *> parts = vectorItemsOf(items);
     if (parts.isEmpty() || (parts.size() < 2 && operation != BooleanOperation::Weld))
         return nullptr;
     const Jk_tu_yuan *first = parts.first();
-    const bool keepFrame = shareTransform(parts);
+    const bool keepFrame = shareItemFrame(parts);
     QTransform toFrame; // scene -> result item coordinates
     QPointF pos;
     if (keepFrame) {
@@ -143,7 +123,7 @@ QUndoCommand *makeBooleanCommand(Jk_chang_jing *scene, const QList<Jk_tu_yuan *>
     Jk_tu_yuan *result = booleanItem(items, operation);
     if (!result)
         return nullptr;
-    return makeReplaceItemsCommand(scene, vectorItems(items), {result}, operationText(operation));
+    return makeReplaceItemsCommand(scene, vectorItemsOf(items), {result}, operationText(operation));
 }
 
 } // namespace lumitra
