@@ -77,6 +77,7 @@ private slots:
     void matchesCompactedFullText();
     void rasterRowsInIncrementsLandExactly_data();
     void rasterRowsInIncrementsLandExactly();
+    void rotaryRasterStaysAbsolute();
 };
 
 void TestPathEmitter::lines_data()
@@ -581,6 +582,25 @@ void TestPathEmitter::fineCurvesLayer()
         worst = qMax(worst, radius - QLineF(c, mid).length());
     }
     QVERIFY2(worst >= lowestSag && worst <= highestSag, qPrintable(QString::number(worst)));
+}
+
+void TestPathEmitter::rotaryRasterStaysAbsolute()
+{
+    // The rotary rewrite rounds every number it scales: increments would add
+    // up its rounding, so under it raster rows keep absolute words.
+    RotarySettings rotary;
+    rotary.mode = RotarySettings::ByDiameter;
+    rotary.diameter = 47.0;
+    Rig rig(layer(80, 6000), rotary);
+    rig.emitter.setRasterWords(true);
+    rig.emitter.beginPath();
+    rig.emitter.travel(1.0, -5.0);
+    for (int i = 1; i <= 200; ++i)
+        i % 2 ? rig.emitter.burn(1.0 + 0.1 * i, -5.0) : rig.emitter.coast(1.0 + 0.1 * i, -5.0);
+    rig.emitter.endPath();
+    const QByteArray job = rig.finish();
+    QVERIFY(!job.contains("G91\nG1"));
+    QVERIFY(job.contains("X21"));
 }
 
 QTEST_GUILESS_MAIN(TestPathEmitter)
