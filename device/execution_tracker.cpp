@@ -1,5 +1,7 @@
 #include "execution_tracker.h"
 
+#include "gcode_line_code.h"
+
 #include <QRegularExpression>
 #include <cmath>
 
@@ -37,13 +39,7 @@ struct LineWords
 LineWords readWords(const QString &raw)
 {
     LineWords w;
-    QString line = raw.toUpper();
-    const int semicolon = line.indexOf(QLatin1Char(';'));
-    if (semicolon >= 0)
-        line.truncate(semicolon);
-    static const QRegularExpression parens(QStringLiteral("\\([^)]*\\)"));
-    line.remove(parens);
-    line = line.trimmed();
+    const QString line = lumitra::gcodeLineCode(raw);
     if (line.startsWith(QLatin1Char('$'))) {
         w.system = true;
         return w;

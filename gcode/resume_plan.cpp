@@ -1,5 +1,7 @@
 #include "resume_plan.h"
 
+#include "gcode_line_code.h"
+
 #include <QFile>
 #include <QRegularExpression>
 #include <cmath>
@@ -38,13 +40,7 @@ bool ModalState::operator==(const ModalState &o) const
 
 void ModalTracker::feed(const QString &raw)
 {
-    QString line = raw.toUpper();
-    const int semicolon = line.indexOf(QLatin1Char(';'));
-    if (semicolon >= 0)
-        line.truncate(semicolon);
-    static const QRegularExpression parens(QStringLiteral("\\([^)]*\\)"));
-    line.remove(parens);
-    line = line.trimmed();
+    const QString line = lumitra::gcodeLineCode(raw);
     if (line.isEmpty() || line.startsWith(QLatin1Char('$')))
         return; // system commands ("$H", "$J=") leave the parser state alone
 

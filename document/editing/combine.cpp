@@ -152,28 +152,15 @@ Jk_tu_yuan *combineItems(const QList<Jk_tu_yuan *> &items)
     if (parts.size() < 2)
         return nullptr;
     const Jk_tu_yuan *first = parts.first();
-    const bool keepFrame = shareItemFrame(parts);
-    QTransform toFrame; // scene -> new item coordinates
-    QPointF pos;
-    if (keepFrame) {
-        toFrame = first->sceneTransform().inverted();
-        pos = first->pos();
-    } else {
-        pos = outlineBounds(parts).topLeft();
-        toFrame = QTransform::fromTranslate(-pos.x(), -pos.y());
-    }
+    const JoinedFrame frame = joinedFrame(parts);
     QPainterPath combined;
     combined.setFillRule(Qt::OddEvenFill);
     for (const Jk_tu_yuan *item : parts)
-        combined.addPath((item->sceneTransform() * toFrame).map(item->path));
+        combined.addPath(outlineInFrame(item, frame));
 
     auto *result = new Jk_tu_yuan(combined, 1);
     result->layer_id = first->layer_id;
-    if (keepFrame) {
-        result->setTransform(first->transform());
-        result->jiao_du = first->jiao_du;
-    }
-    result->setPos(pos);
+    placeInFrame(result, frame);
     return result;
 }
 

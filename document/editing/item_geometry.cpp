@@ -139,4 +139,34 @@ bool shareItemFrame(const QList<Jk_tu_yuan *> &items)
     return items.first()->transform().isInvertible();
 }
 
+JoinedFrame joinedFrame(const QList<Jk_tu_yuan *> &items)
+{
+    JoinedFrame frame;
+    if (items.isEmpty())
+        return frame;
+    if (shareItemFrame(items)) {
+        frame.kept = items.first();
+        frame.sceneToFrame = frame.kept->sceneTransform().inverted();
+        frame.pos = frame.kept->pos();
+    } else {
+        frame.pos = outlineBounds(items).topLeft();
+        frame.sceneToFrame = QTransform::fromTranslate(-frame.pos.x(), -frame.pos.y());
+    }
+    return frame;
+}
+
+QPainterPath outlineInFrame(const Jk_tu_yuan *item, const JoinedFrame &frame)
+{
+    return (item->sceneTransform() * frame.sceneToFrame).map(item->path);
+}
+
+void placeInFrame(Jk_tu_yuan *item, const JoinedFrame &frame)
+{
+    if (frame.kept) {
+        item->setTransform(frame.kept->transform());
+        item->jiao_du = frame.kept->jiao_du;
+    }
+    item->setPos(frame.pos);
+}
+
 } // namespace lumitra

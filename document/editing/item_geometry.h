@@ -71,4 +71,19 @@ QList<Jk_tu_yuan *> vectorItemsOf(const QList<Jk_tu_yuan *> &items);
 // transform can be undone: their outlines can be joined in its frame.
 bool shareItemFrame(const QList<Jk_tu_yuan *> &items);
 
+// The frame of an item made from the outlines of `items` (one or more): the
+// first item's when they all share it (shareItemFrame), else an upright frame
+// at their top-left corner.
+struct JoinedFrame
+{
+    QTransform sceneToFrame;
+    QPointF pos;
+    const Jk_tu_yuan *kept = nullptr; // the item whose transform and turn it keeps
+};
+JoinedFrame joinedFrame(const QList<Jk_tu_yuan *> &items);
+// The outline of `item` in that frame.
+QPainterPath outlineInFrame(const Jk_tu_yuan *item, const JoinedFrame &frame);
+// Puts `item` (whose outline is in the frame) where the frame says.
+void placeInFrame(Jk_tu_yuan *item, const JoinedFrame &frame);
+
 } // namespace lumitra

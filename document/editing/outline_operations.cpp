@@ -90,29 +90,16 @@ Jk_tu_yuan *booleanItem(const QList<Jk_tu_yuan *> &items, BooleanOperation opera
     if (parts.isEmpty() || (parts.size() < 2 && operation != BooleanOperation::Weld))
         return nullptr;
     const Jk_tu_yuan *first = parts.first();
-    const bool keepFrame = shareItemFrame(parts);
-    QTransform toFrame; // scene -> result item coordinates
-    QPointF pos;
-    if (keepFrame) {
-        toFrame = first->sceneTransform().inverted();
-        pos = first->pos();
-    } else {
-        pos = outlineBounds(parts).topLeft();
-        toFrame = QTransform::fromTranslate(-pos.x(), -pos.y());
-    }
+    const JoinedFrame frame = joinedFrame(parts);
     QList<QPainterPath> operands;
     for (const Jk_tu_yuan *item : parts)
-        operands.append((item->sceneTransform() * toFrame).map(item->path));
+        operands.append(outlineInFrame(item, frame));
     const QPainterPath result = combineOutlines(operation, operands);
     if (result.isEmpty())
         return nullptr;
     auto *item = new Jk_tu_yuan(result, 1);
     item->layer_id = first->layer_id;
-    if (keepFrame) {
-        item->setTransform(first->transform());
-        item->jiao_du = first->jiao_du;
-    }
-    item->setPos(pos);
+    placeInFrame(item, frame);
     item->setSelected(true);
     return item;
 }
