@@ -55,6 +55,31 @@ int runExport(const CommandLine &cl)
     return 0;
 }
 
+// --from-line: the job's state at that line, then the rest of the job, in a
+// file of its own in `dir`. False (with the reason on `err`) when it cannot be.
+bool writeResumedJob(const CommandLine &cl, const QTemporaryDir &dir, QString *file,
+                     gcode::ResumeJob *resumed, QTextStream &out, QTextStream &err)
+{
+    QStringList job;
+    QString error;
+    if (!gcode::readJobLines(cl.runFile, &job, &error)) {
+        err << "cannot read the job file " << cl.runFile << ": " << error << "\n";
+        return false;
+    }
+    if (cl.fromLine > job.size()) {
+        err << "the job has only " << job.size() << " lines\n";
+        return false;
+    }
+    *resumed = gcode::buildResumeJob(job, cl.fromLine);
+    *file = dir.filePath(QFileInfo(cl.runFile).fileName());
+    if (!dir.isValid() || !gcode::writeJobLines(*file, resumed->lines, &error)) {
+        err << "cannot write the resumed job: " << error << "\n";
+        return false;
+    }
+    out << "resuming at line " << resumed->fromLine << " of " << job.size() << "\n";
+    return true;
+}
+
 // --port ... --run: streams a file through the same serial link as the window.
 int runSender(const CommandLine &cl)
 {
@@ -66,27 +91,13 @@ int runSender(const CommandLine &cl)
     };
     if (cl.fromLine <= 0)
         return runJobHeadless(cl.port, cl.runFile, cl.home, out, err, options);
-    // --from-line: the job's state at that line, then the rest of the job.
-    QStringList job;
-    QString error;
-    if (!gcode::readJobLines(cl.runFile, &job, &error)) {
-        err << "cannot read the job file " << cl.runFile << ": " << error << "\n";
-        return HeadlessBadFile;
-    }
-    if (cl.fromLine > job.size()) {
-        err << "the job has only " << job.size() << " lines\n";
-        return HeadlessBadFile;
-    }
-    const gcode::ResumeJob resumed = gcode::buildResumeJob(job, cl.fromLine);
     QTemporaryDir dir;
-    const QString file = dir.filePath(QFileInfo(cl.runFile).fileName());
-    if (!dir.isValid() || !gcode::writeJobLines(file, resumed.lines, &error)) {
-        err << "cannot write the resumed job: " << error << "\n";
+    QString file;
+    gcode::ResumeJob resumed;
+    if (!writeResumedJob(cl, dir, &file, &resumed, out, err))
         return HeadlessBadFile;
-    }
     options.preambleLines = resumed.preambleLines;
     options.firstJobLine = resumed.fromLine;
-    out << "resuming at line " << resumed.fromLine << " of " << job.size() << "\n";
     return runJobHeadless(cl.port, file, cl.home, out, err, options);
 }
 
@@ -97,7 +108,20 @@ int runWifiSender(const CommandLine &cl)
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     QTextStream out(stdout);
     QTextStream err(stderr);
-    return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, cl.runFile, out, err);
+    HeadlessWifiOptions options;
+    options.onStoppable = [](const std::function<void()> &stop) {
+        set_terminate_signal_handler(stop);
+    };
+    if (cl.fromLine <= 0)
+        return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, cl.runFile, out, err, options);
+    QTemporaryDir dir;
+    QString file;
+    gcode::ResumeJob resumed;
+    if (!writeResumedJob(cl, dir, &file, &resumed, out, err))
+        return HeadlessBadFile;
+    options.preambleLines = resumed.preambleLines;
+    options.firstJobLine = resumed.fromLine;
+    return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, file, out, err, options);
 }
 
 // --camera ... -o: the straightened photo of the work area, as the window

@@ -22,7 +22,7 @@ CommandLine parse_command_line(const QStringList &arguments)
                        "  --export INPUT -o OUTPUT   write the G-code job of a design file\n"
                        "  --port PORT --run FILE [--from-line N]\n"
                        "                             stream a G-code file to a controller\n"
-                       "  --wifi HOST[:PORT] --run FILE [--ws-port N]\n"
+                       "  --wifi HOST[:PORT] --run FILE [--ws-port N] [--from-line N]\n"
                        "                             run a G-code file on a WiFi controller\n"
                        "  --camera HOST[:PORT] -o PHOTO.png\n"
                        "                             save the straightened camera photo\n"
@@ -157,8 +157,9 @@ CommandLine parse_command_line(const QStringList &arguments)
     if (parser.isSet(settingsOpt))
         return usage(QStringLiteral("--settings is only used with --estimate"));
     if (parser.isSet(fromLineOpt)) {
-        if (!parser.isSet(runOpt) || !parser.isSet(portOpt))
-            return usage(QStringLiteral("--from-line is only used with --port PORT --run FILE"));
+        if (!parser.isSet(runOpt) || (!parser.isSet(portOpt) && !parser.isSet(wifiOpt)))
+            return usage(QStringLiteral(
+                "--from-line is only used with --run FILE and --port PORT or --wifi HOST"));
         bool ok = false;
         result.fromLine = parser.value(fromLineOpt).toInt(&ok);
         if (!ok || result.fromLine < 1)

@@ -1,7 +1,9 @@
 #include "headless_wifi_run.h"
 
 #include "http_thread.h"
+#include "sd_job_watch.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QTextStream>
@@ -23,6 +25,23 @@ bool splitAddress(const QString &address, QString &host, int &port)
             return false;
     }
     return !host.isEmpty();
+}
+
+// The line to resume from, in the original job when the file is a resumed one.
+void reportResumeLine(SdJobWatch &watch, bool positionLost, const HeadlessWifiOptions &options,
+                      QTextStream &out)
+{
+    const int fileLine = watch.resumeLine();
+    const int jobLine = fileLine <= options.preambleLines
+                            ? options.firstJobLine
+                            : options.firstJobLine + fileLine - options.preambleLines - 1;
+    const double percent = qMax(0.0, watch.progress().percent());
+    out << "stopped at " << QString::number(percent, 'f', 2) << "% of the file; resume from line "
+        << jobLine << "\n";
+    if (positionLost)
+        out << "the board was reset or lost power: home it or set the origin again before "
+               "resuming\n";
+    out.flush();
 }
 
 } // namespace
@@ -71,9 +90,11 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
     QObject::connect(&silence, &QTimer::timeout, &loop, [&] {
         finish(HeadlessSilent, QStringLiteral("the board stopped answering"));
     });
-    QTimer poll;
-    poll.setInterval(options.pollIntervalMs);
-    QObject::connect(&poll, &QTimer::timeout, &link, &HttpThread::queryStatus);
+    SdJobWatch watch(&link);
+    watch.setPollInterval(options.pollIntervalMs);
+    bool positionLost = false;
+    QObject::connect(&watch, &SdJobWatch::interrupted, &loop,
+                     [&](bool lost) { positionLost = lost; });
 
     int lastUploadPercent = -1;
     QObject::connect(&link, &HttpThread::send_Jin_Du_Zhi, &loop, [&](qint64 sent, qint64 total) {
@@ -90,6 +111,7 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
             finish(HeadlessNotTaken, QStringLiteral("upload failed: ") + error);
             return;
         }
+        watch.askForBufferReports();
         link.runFile(QLatin1Char('/') + QLatin1String(kRemoteName));
     });
     bool started = false;
@@ -99,10 +121,16 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
             return;
         }
         started = true;
+        watch.jobStarted(info.absoluteFilePath());
         out << "running\n";
         out.flush();
         silence.start();
-        poll.start();
+        if (options.onStoppable)
+            options.onStoppable([&] {
+                link.stop();
+                watch.stopped();
+                finish(HeadlessStopped, QStringLiteral("stopped on request"));
+            });
     });
 
     int lastProgress = -1;
@@ -141,8 +169,26 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
     link.uploadFile(info.absoluteFilePath(), QLatin1String(kRemoteName));
     if (result < 0)
         loop.exec();
-    poll.stop();
+    if (options.onStoppable)
+        options.onStoppable({});
     silence.stop();
+    if (result == HeadlessStopped) {
+        // The reset must reach the board before the program ends.
+        QTimer wait;
+        wait.start(10);
+        QElapsedTimer waited;
+        waited.start();
+        QObject::connect(&wait, &QTimer::timeout, &loop, [&] {
+            if (!link.commandsPending() || waited.elapsed() > 3000)
+                loop.quit();
+        });
+        loop.exec();
+    }
+    if (started && result != HeadlessDone) {
+        if (watch.active())
+            watch.stopped(); // silent: the last report is all there is
+        reportResumeLine(watch, positionLost, options, out);
+    }
     if (link.uploading())
         link.cancelUpload();
     out.flush();

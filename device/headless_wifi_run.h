@@ -3,6 +3,7 @@
 #include "headless_run.h"
 
 #include <QString>
+#include <functional>
 
 class QTextStream;
 
@@ -18,12 +19,25 @@ class QTextStream;
 // WebSocket), HeadlessNotTaken (upload failed, job not started),
 // HeadlessMachineFault (alarm or error), HeadlessPortLost (WebSocket dropped)
 // or HeadlessSilent (no line from the board for `silenceTimeoutMs` while
-// running). Needs a QCoreApplication; blocks in a local event loop.
+// running) or HeadlessStopped (a stop request: the board is reset). Needs a
+// QCoreApplication; blocks in a local event loop.
+//
+// A run that ends early after the job started prints to `out`
+//   "stopped at <P>% of the file; resume from line <N>"
+// where N is the first line the board had not surely executed (SdJobProgress;
+// a line of the original job when `options` say the file is a resumed one),
+// and a reminder to home or set the origin again first.
 struct HeadlessWifiOptions
 {
     int connectTimeoutMs = 5000;
     int silenceTimeoutMs = 30000;
     int pollIntervalMs = 1000;
+    // The file is a resumed job: its first `preambleLines` lines restore the
+    // state, the next one is line `firstJobLine` of the original job.
+    int preambleLines = 0;
+    int firstJobLine = 1;
+    // As HeadlessRunOptions::onStoppable.
+    std::function<void(const std::function<void()> &)> onStoppable;
 };
 
 int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, QTextStream &out,

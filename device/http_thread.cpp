@@ -222,6 +222,11 @@ void HttpThread::handleLine(const QString &line)
 
 // ---- Commands ------------------------------------------------------------------
 
+bool HttpThread::commandsPending() const
+{
+    return d->inFlight || !d->queue.isEmpty();
+}
+
 void HttpThread::enqueue(const QNetworkRequest &request,
                          const std::function<void(QNetworkReply *)> &done, bool urgent)
 {

@@ -67,6 +67,8 @@ public:
     // The soft reset ("%18").
     void stop();
     bool sdJobRunning() const;
+    // A command request is in flight or waiting.
+    bool commandsPending() const;
 
 signals:
     // Free-text news of the link for a console line.

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <QIODevice>
 #include <QPointF>
 #include <QString>
-
-class QIODevice;
 
 // Follows a G-code job line by line the way the controller would (modal G0/G1,
 // G90/G91, S, F, M3/M4/M5) and reports every XY move. Used by the job preview

@@ -56,7 +56,7 @@ private slots:
             << QStringList{"--from-line", "7"} << int(CommandLine::Exit) << 2;
         QTest::newRow("resume over wifi")
             << QStringList{"--wifi", "h", "--run", "a.nc", "--from-line", "7"}
-            << int(CommandLine::Exit) << 2;
+            << int(CommandLine::WifiRun) << 0;
         QTest::newRow("resume from line 0")
             << QStringList{"--port", "p", "--run", "a.nc", "--from-line", "0"}
             << int(CommandLine::Exit) << 2;

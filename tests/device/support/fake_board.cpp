@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHostAddress>
+#include <QRegularExpression>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -509,6 +510,13 @@ void FakeBoard::handleRequest(Connection &c, QTcpSocket *socket)
             m_jobFile = name;
             m_jobRunning = true;
             m_jobElapsedMs = 0;
+            if (m_runner)
+                m_earlierRuns += m_runner->executed();
+            m_runner.reset();
+            if (m_opt.executeJobs) {
+                m_runner = std::make_unique<CardJobRunner>();
+                m_runner->open(m_card.value(name), m_opt.msPerBlock);
+            }
             m_jobTimer->start();
             respond(socket, 200, "ok");
             return;
@@ -575,8 +583,22 @@ QByteArray FakeBoard::cardListJson() const
 
 // ---- GRBL over the WebSocket ---------------------------------------------------
 
-QByteArray FakeBoard::statusReport(const char *state) const
+QByteArray FakeBoard::statusReport(const char *state)
 {
+    if (m_runner) {
+        const QPointF at = m_runner->position();
+        QByteArray report = QByteArray("<") + state + "|MPos:" + QByteArray::number(at.x(), 'f', 3)
+                            + ',' + QByteArray::number(at.y(), 'f', 3)
+                            + ",0.000|FS:" + (m_jobRunning ? "1000,500" : "0,0");
+        if (m_settings.value(10).toInt() & 2)
+            report += "|Bf:" + QByteArray::number(15 - m_runner->queuedBlocks()) + ",127";
+        if (m_jobRunning) {
+            report += "|SD:" + QByteArray::number(m_runner->percentRead(), 'f', 2) + ",/"
+                      + m_jobFile.toUtf8();
+            m_reportedRunLine = m_runner->lastRunLine();
+        }
+        return report + ">";
+    }
     QByteArray report = QByteArray("<") + state
                         + "|MPos:10.000,5.000,0.000|FS:" + (m_jobRunning ? "1000,500" : "0,0");
     if (m_jobRunning && m_opt.jobMs > 0) {
@@ -608,14 +630,52 @@ void FakeBoard::onCommand(const QString &text)
     } else if (text == QString(QChar(0x18))) {
         m_jobRunning = false;
         m_jobTimer->stop();
+        if (m_runner)
+            m_runner->halt();
         sendLines({"Grbl 1.1h ['$' for help]"});
     } else {
+        static const QRegularExpression setting(QStringLiteral("^\\$(\\d+)=(\\S+)$"));
+        const auto m = setting.match(text);
+        if (m.hasMatch() && m_settings.contains(m.captured(1).toInt()))
+            m_settings.insert(m.captured(1).toInt(), m.captured(2));
         sendLines({"ok"});
     }
 }
 
+QList<CardJobRunner::ExecutedMove> FakeBoard::executedMoves() const
+{
+    return m_runner ? m_earlierRuns + m_runner->executed() : m_earlierRuns;
+}
+
+void FakeBoard::powerCut()
+{
+    if (m_runner)
+        m_runner->halt();
+    m_jobRunning = false;
+    m_jobTimer->stop();
+    dropWebSockets();
+}
+
 void FakeBoard::jobTick()
 {
+    if (m_runner) {
+        if (m_runner->advance(m_opt.reportIntervalMs, m_opt.alarmAtBlock)) {
+            m_opt.alarmAtBlock = -1; // once
+            m_runner->halt();
+            m_jobRunning = false;
+            m_jobTimer->stop();
+            sendLines({"ALARM:1", statusReport("Alarm")});
+            return;
+        }
+        if (m_runner->finished()) {
+            m_jobRunning = false;
+            m_jobTimer->stop();
+            sendLines({statusReport("Idle")});
+            return;
+        }
+        sendLines({statusReport("Run")});
+        return;
+    }
     m_jobElapsedMs += m_opt.reportIntervalMs;
     if (m_opt.alarmAfterMs >= 0 && m_jobElapsedMs >= m_opt.alarmAfterMs) {
         m_jobRunning = false;

@@ -6,6 +6,9 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <memory>
+
+#include "card_job_runner.h"
 
 class QTcpServer;
 class QTcpSocket;
@@ -36,7 +39,8 @@ class QTimer;
 // frame optionally split in two at its middle. A new WebSocket client first gets
 // the board's own text chatter "CURRENT_ID:0", "ACTIVE_ID:0", "PING:1".
 // "[ESP220]/NAME" starts a pretend job on a card file: Run reports every
-// `reportIntervalMs` for `jobMs`, then Idle (or an alarm when asked).
+// `reportIntervalMs` for `jobMs`, then Idle (or an alarm when asked); with
+// `executeJobs` the file really runs. A command "$N=V" changes a setting.
 // Lives on the thread that creates it (the test's GUI thread).
 class FakeBoard : public QObject
 {
@@ -52,6 +56,13 @@ public:
         int jobMs = 300;
         int reportIntervalMs = 50;
         int alarmAfterMs = -1; // >= 0: the pretend job raises ALARM:1 after this
+        // Run the card file for real (CardJobRunner) instead of pretending:
+        // each planner block takes msPerBlock, the reports carry the share of
+        // the file read ("SD:"), the head's position and, with $10 bit 1,
+        // "Bf:"; the job ends when the file has run (jobMs is not used).
+        bool executeJobs = false;
+        int msPerBlock = 5;
+        int alarmAtBlock = -1; // >= 0: ALARM:1 once this many blocks have run
         QString model;         // named in the "$I" answer when set
     };
 
@@ -107,6 +118,14 @@ public:
     void putCardFile(const QString &name, const QByteArray &bytes);
 
     QMap<int, QString> settings() const { return m_settings; }
+    // The job run from the card (executeJobs), or nullptr before the first.
+    const CardJobRunner *jobRunner() const { return m_runner.get(); }
+    // Every block the card jobs ran, all runs in order.
+    QList<CardJobRunner::ExecutedMove> executedMoves() const;
+    // The power fails: the job stops where it is and the WebSockets drop.
+    void powerCut();
+    // Job line of the last block run when the last running report went out.
+    int lastReportedRunLine() const { return m_reportedRunLine; }
     bool jobRunning() const { return m_jobRunning; }
     int webSocketClients() const { return m_clients.size(); }
 
@@ -135,7 +154,7 @@ private:
     void onCommand(const QString &text);
     void onWebSocketConnection();
     QByteArray cardListJson() const;
-    QByteArray statusReport(const char *state) const;
+    QByteArray statusReport(const char *state);
     void jobTick();
 
     Options m_opt;
@@ -159,6 +178,9 @@ private:
     bool m_jobRunning = false;
     qint64 m_jobElapsedMs = 0;
     QString m_jobFile;
+    std::unique_ptr<CardJobRunner> m_runner;
+    QList<CardJobRunner::ExecutedMove> m_earlierRuns;
+    int m_reportedRunLine = 0;
     QByteArray m_cameraImage;
     int m_cameraFailuresLeft = 0;
     CameraFailure m_cameraFailure = CameraFailure::Status500;

@@ -1,0 +1,124 @@
+#include "sd_job_watch.h"
+
+#include "execution_tracker.h"
+#include "http_thread.h"
+
+#include <QThread>
+
+SdJobWatch::SdJobWatch(HttpThread *link, QObject *parent) : QObject(parent), m_link(link)
+{
+    m_poll.setInterval(1000);
+    connect(&m_poll, &QTimer::timeout, this, [this] {
+        if (m_link && m_link->isConnected())
+            m_link->queryStatus();
+    });
+    connect(link, &HttpThread::lineReceived, this, &SdJobWatch::onLine);
+    connect(link, &HttpThread::sendDisconnectMessage, this, [this](int) {
+        if (m_active)
+            end(false);
+    });
+}
+
+SdJobWatch::~SdJobWatch()
+{
+    if (m_thread)
+        m_thread->wait();
+}
+
+void SdJobWatch::setStepSizes(double xMm, double yMm)
+{
+    m_stepX = xMm;
+    m_stepY = yMm;
+}
+
+void SdJobWatch::askForBufferReports()
+{
+    if (!m_link || m_anyReport.contains(QLatin1String("Bf:")))
+        return;
+    m_link->sendCommand(
+        QStringLiteral("$10=%1").arg(lumitra::grbl::statusMaskWithBuffer(m_anyReport)));
+}
+
+void SdJobWatch::jobStarted(const QString &localPath)
+{
+    m_active = true;
+    m_sawRun = false;
+    m_lastReport.clear();
+    m_progress = SdJobProgress();
+    m_path = localPath;
+    if (m_thread)
+        m_thread->wait(); // an earlier job's index, no longer wanted
+    auto result = std::make_shared<SdJobProgress>();
+    m_indexing = result;
+    const double stepX = m_stepX, stepY = m_stepY;
+    m_thread = QThread::create(
+        [result, localPath, stepX, stepY] { result->index(localPath, stepX, stepY); });
+    QThread *thread = m_thread;
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, this, [this, thread] {
+        if (thread == m_thread) {
+            m_thread = nullptr;
+            applyIndex();
+        }
+    });
+    thread->start();
+    m_poll.start();
+}
+
+void SdJobWatch::applyIndex()
+{
+    if (!m_indexing)
+        return;
+    m_progress = *m_indexing;
+    m_indexing.reset();
+    if (!m_lastReport.isEmpty())
+        m_progress.statusReport(m_lastReport);
+}
+
+int SdJobWatch::resumeLine()
+{
+    if (m_thread) {
+        m_thread->wait();
+        m_thread = nullptr; // its queued end finds the index applied
+        applyIndex();
+    }
+    return m_progress.resumeLine();
+}
+
+void SdJobWatch::stopped()
+{
+    if (m_active)
+        end(false);
+}
+
+void SdJobWatch::onLine(const QString &line)
+{
+    if (line.startsWith(QLatin1Char('<')))
+        m_anyReport = line;
+    if (!m_active)
+        return;
+    if (line.startsWith(QLatin1String("ALARM:"))) {
+        end(false);
+        return;
+    }
+    if (!line.startsWith(QLatin1Char('<')))
+        return;
+    if (m_progress.statusReport(line))
+        m_lastReport = line;
+    if (line.startsWith(QLatin1String("<Run")) || line.startsWith(QLatin1String("<Hold")))
+        m_sawRun = true;
+    else if (line.startsWith(QLatin1String("<Alarm")))
+        end(false);
+    else if (line.startsWith(QLatin1String("<Idle")) && m_sawRun)
+        end(true);
+}
+
+void SdJobWatch::end(bool finishedNormally)
+{
+    m_active = false;
+    m_poll.stop();
+    if (finishedNormally)
+        emit finished();
+    else
+        emit interrupted(true);
+}
