@@ -267,10 +267,10 @@ void Widget::setupMachine()
     m_machinePanel = new MachinePanel(ui->machineHost);
     ui->machineHostLayout->addWidget(m_machinePanel);
     m_machine = new MachineController(m_machinePanel, this, this);
-    // After an interrupted serial job: "resume from line N"; while one runs,
-    // the time left beside the progress bar.
-    new ResumeOffer(m_machine, m_machinePanel, this, this);
-    new JobTimeDisplay(m_machine, m_machinePanel, this);
+    // After an interrupted job: "resume from line N"; while one runs, the
+    // time left beside the progress bar (the WiFi road is added below).
+    auto *resumeOffer = new ResumeOffer(m_machine, m_machinePanel, this, this);
+    auto *jobTime = new JobTimeDisplay(m_machine, m_machinePanel, this);
     m_machine->setFrameSource(
         [this] { return outputBounds(currentDesignItems(), LayerList::instance()); });
     // The board last reached over WiFi is offered again.
@@ -282,6 +282,8 @@ void Widget::setupMachine()
         ui->port_Edit->setText(lastPort);
     m_machine->setWifiAddress(ui->ip_Edit->text());
     m_wifi = new WifiLinkController(m_machine, ui->wifi_Btn, this, this);
+    resumeOffer->watchWifi(m_wifi);
+    jobTime->watchWifi(m_wifi);
     connect(ui->wifi_Btn, &QPushButton::clicked, m_wifi,
             [this] { m_wifi->toggle(ui->ip_Edit->text(), ui->port_Edit->text()); });
     m_wifiTools =

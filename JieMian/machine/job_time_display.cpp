@@ -5,7 +5,9 @@
 #include "machine_controller.h"
 #include "machine_panel.h"
 #include "program_state.h"
+#include "sd_job_watch.h"
 #include "ui_machine_panel.h"
+#include "wifi_link_controller.h"
 
 #include <QThread>
 #include <memory>
@@ -34,9 +36,45 @@ void JobTimeDisplay::watchLink()
                 Qt::UniqueConnection);
 }
 
+void JobTimeDisplay::watchWifi(WifiLinkController *wifi)
+{
+    if (!wifi || wifi == m_wifi)
+        return;
+    m_wifi = wifi;
+    connect(wifi, &WifiLinkController::jobStarted, this, &JobTimeDisplay::onWifiJobStarted);
+}
+
+void JobTimeDisplay::onWifiJobStarted(const QString &path)
+{
+    SdJobWatch *watch = m_wifi ? m_wifi->jobWatch() : nullptr;
+    if (!watch)
+        return;
+    m_wifiJob = watch;
+    connect(watch, &SdJobWatch::finished, this, &JobTimeDisplay::stopShowing, Qt::UniqueConnection);
+    connect(watch, &SdJobWatch::interrupted, this, &JobTimeDisplay::stopShowing,
+            Qt::UniqueConnection);
+    m_active = false;
+    begin(path);
+}
+
 void JobTimeDisplay::onProgress(int percent)
 {
     if (percent != 0 || m_active || !m_machine)
+        return;
+    m_wifiJob = nullptr;
+    begin(lumitra::programState().jobFilePath);
+}
+
+int JobTimeDisplay::lineNow() const
+{
+    if (m_wifiJob)
+        return m_wifiJob->currentLine();
+    return m_watched ? m_watched->lastAcknowledgedLine() : 0;
+}
+
+void JobTimeDisplay::begin(const QString &path)
+{
+    if (!m_machine)
         return;
     m_active = true;
     m_planned = false;
@@ -44,7 +82,6 @@ void JobTimeDisplay::onProgress(int percent)
     m_tick.start();
     // Planned on a thread of its own: a long job takes a while.
     const quint64 run = ++m_run;
-    const QString path = lumitra::programState().jobFilePath;
     const GrblMachineSettings settings =
         GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
     auto result = std::make_shared<PlannedJobTime>();
@@ -74,9 +111,8 @@ void JobTimeDisplay::refresh(double elapsedSeconds)
     if (!m_active || !m_planned || !m_panel)
         return;
     const double elapsed = elapsedSeconds >= 0.0 ? elapsedSeconds : m_clock.elapsed() / 1000.0;
-    const int answered = m_watched ? m_watched->lastAcknowledgedLine() : 0;
     m_panel->form().remaining_Lab->setText(
-        tr("剩余 %1").arg(formatRunTime(m_timeline.remainingSeconds(answered, elapsed))));
+        tr("剩余 %1").arg(formatRunTime(m_timeline.remainingSeconds(lineNow(), elapsed))));
 }
 
 QString JobTimeDisplay::text() const

@@ -34,6 +34,8 @@ MachineController::MachineController(MachinePanel *panel, QWidget *dialogParent,
     qRegisterMetaType<lumitra::MachineTravel>("lumitra::MachineTravel");
     m_indicatorTimer.setInterval(kIndicatorTickMs);
     connect(&m_indicatorTimer, &QTimer::timeout, this, &MachineController::updateRunTime);
+    m_wifiPoll.setInterval(1000);
+    connect(&m_wifiPoll, &QTimer::timeout, this, [this] { sendWifi(QStringLiteral("?")); });
     m_afterConnectTimer.setSingleShot(true);
     m_afterConnectTimer.setInterval(kSettingsAfterConnectMs);
     connect(&m_afterConnectTimer, &QTimer::timeout, this, [this] {
@@ -225,8 +227,19 @@ void MachineController::setWifiBusy(bool wifiBusy)
     const bool was = busy();
     m_wifiBusy = wifiBusy;
     programState().running = busy();
+    updateWifiPoll();
     if (busy() != was)
         emit busyChanged(busy());
+}
+
+void MachineController::updateWifiPoll()
+{
+    if (m_wifiBusy && programState().connectionMode == lumitra::WifiLink) {
+        if (!m_wifiPoll.isActive())
+            m_wifiPoll.start();
+    } else {
+        m_wifiPoll.stop();
+    }
 }
 
 void MachineController::onStatus(const QString &text)
@@ -246,8 +259,10 @@ void MachineController::applyStatus(StatusLink link, const QString &text)
     const bool wasBusy = busy();
     StatusDisplayState &state = link == StatusLink::Wifi ? m_wifiStatus : m_status;
     const StatusReaction r = reactToStatus(link, state, text, f.console_Edit->toPlainText().size());
-    if (link == StatusLink::Wifi)
+    if (link == StatusLink::Wifi) {
         m_wifiBusy = m_wifiStatus.busy;
+        updateWifiPoll();
+    }
     programState().running = busy();
     if (busy() != wasBusy)
         emit busyChanged(busy());
@@ -387,6 +402,12 @@ void MachineController::onWifiLost(bool expected)
     if (!expected)
         lumitra::show_notice(m_dialogParent, text);
     emit connectionChanged(lumitra::NotConnected);
+}
+
+void MachineController::onWifiProgress(float percent)
+{
+    if (m_panel)
+        m_panel->form().progress_Bar->setValue(qBound(0, int(percent), 100));
 }
 
 void MachineController::onWifiSettings(const QMap<int, QString> &settings)

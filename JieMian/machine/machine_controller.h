@@ -122,6 +122,8 @@ public slots:
     void setWifiLinked(const QString &address);
     // The link went down; `expected` when the user disconnected.
     void onWifiLost(bool expected);
+    // How much of the job on the card the board has read, percent.
+    void onWifiProgress(float percent);
 
 signals:
     void connectionChanged(int mode);
@@ -155,6 +157,10 @@ private:
     void updateRunTime();
     void startIndicator();
     void setBusy(bool serialBusy);
+    // While the WiFi board is busy its state is asked for every second: not
+    // every board sends reports by itself, and an alarm, a reset or a homing
+    // cycle ends without one.
+    void updateWifiPoll();
 
     // Guards. True when the control may go ahead (a refusal was shown otherwise).
     bool linked();
@@ -187,6 +193,7 @@ private:
     int m_handshakeTimeoutMs = 5000;
     QTimer m_indicatorTimer;
     QTimer m_afterConnectTimer;
+    QTimer m_wifiPoll;
     QString m_wifiAddress;
     std::function<QRectF()> m_frameSource;
     std::function<QString()> m_fileChooser;

@@ -6,7 +6,9 @@
 #include "message_box.h"
 #include "program_state.h"
 #include "resume_dialog.h"
+#include "sd_job_watch.h"
 #include "ui_machine_panel.h"
+#include "wifi_link_controller.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -16,7 +18,7 @@ ResumeOffer::ResumeOffer(MachineController *machine, MachinePanel *panel, QWidge
     : QObject(parent), m_machine(machine), m_dialogParent(dialogParent)
 {
     // After the controller's own handler, which has reset the machine.
-    connect(panel->form().stop_Btn, &QPushButton::clicked, this, [this] { interrupted(true); });
+    connect(panel->form().stop_Btn, &QPushButton::clicked, this, &ResumeOffer::onStop);
     connect(machine, &MachineController::connectionChanged, this, [this] { watchLink(); });
     watchLink();
 }
@@ -39,13 +41,46 @@ void ResumeOffer::watchLink()
     connect(com, &Jk_com::linkLost, this, [this] { interrupted(false); });
 }
 
+void ResumeOffer::watchWifi(WifiLinkController *wifi)
+{
+    if (!wifi || wifi == m_wifi)
+        return;
+    m_wifi = wifi;
+    connect(wifi, &WifiLinkController::jobStarted, this, &ResumeOffer::onWifiJobStarted);
+}
+
+void ResumeOffer::onWifiJobStarted(const QString &path)
+{
+    SdJobWatch *watch = m_wifi ? m_wifi->jobWatch() : nullptr;
+    if (!watch)
+        return;
+    m_wifiJob = watch;
+    connect(watch, &SdJobWatch::finished, this, &ResumeOffer::onFinished, Qt::UniqueConnection);
+    connect(
+        watch, &SdJobWatch::interrupted, this,
+        [this](bool positionLost) {
+            if (!m_jobActive || !m_wifiJob)
+                return;
+            m_jobActive = false;
+            // The first line not surely run, less one, is the last one run.
+            offer(originalLine(m_wifiJob->resumeLine() - 1) + 1, positionLost);
+        },
+        Qt::UniqueConnection);
+    m_jobActive = false;
+    jobStarted(path);
+}
+
 void ResumeOffer::onProgress(int percent)
 {
     if (percent != 0 || m_jobActive)
         return;
-    // A run started: the file it streams.
+    m_wifiJob = nullptr;
+    jobStarted(lumitra::programState().jobFilePath);
+}
+
+void ResumeOffer::jobStarted(const QString &path)
+{
     m_jobActive = true;
-    const QString path = lumitra::programState().jobFilePath;
     if (path != m_running) {
         m_running = path;
         m_original = path;
@@ -66,12 +101,25 @@ int ResumeOffer::originalLine(int fileLine) const
     return m_firstJobLine + fileLine - m_preambleLines - 1;
 }
 
+void ResumeOffer::onStop()
+{
+    // The card job's watch tells its own interruption.
+    if (m_wifiJob && m_jobActive)
+        m_wifiJob->stopped();
+    else
+        interrupted(true);
+}
+
 void ResumeOffer::interrupted(bool positionLost)
 {
-    if (!m_jobActive || !m_watched)
+    if (!m_jobActive || !m_watched || m_wifiJob)
         return;
     m_jobActive = false;
-    const int next = originalLine(m_watched->lastExecutedLine()) + 1;
+    offer(originalLine(m_watched->lastExecutedLine()) + 1, positionLost);
+}
+
+void ResumeOffer::offer(int next, bool positionLost)
+{
     QStringList job;
     QString error;
     if (!lumitra::gcode::readJobLines(m_original, &job, &error) || next > job.size())

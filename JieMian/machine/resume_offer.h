@@ -11,11 +11,15 @@ class Jk_com;
 class MachineController;
 class MachinePanel;
 class ResumeDialog;
+class SdJobWatch;
+class WifiLinkController;
 class QWidget;
 
-// Offers to resume a serial job that was interrupted: a lost port, an alarm or
-// error from the controller, or the user's stop. The link tells how far the
-// machine has surely executed (Jk_com::lastExecutedLine); the dialog suggests
+// Offers to resume a job that was interrupted: a lost port or WiFi link, an
+// alarm or error from the controller, or the user's stop. The link tells how
+// far the machine has surely executed (Jk_com::lastExecutedLine over the
+// serial wire, SdJobWatch::resumeLine for a job on the board's card); the
+// dialog suggests
 // the next line, lets the user change it and shows where it is; accepting
 // writes the resumed job (the state at that line restored with the laser off,
 // then the rest) and runs it through the machine controller. A job that was
@@ -33,6 +37,8 @@ public:
     // Follows the machine controller's serial link (call again after a
     // connect: the link exists from the first connect on). Idempotent.
     void watchLink();
+    // Follows the jobs the WiFi road starts on the board's card.
+    void watchWifi(WifiLinkController *wifi);
 
     // The dialog on screen, or nullptr.
     ResumeDialog *dialog() const;
@@ -53,12 +59,20 @@ signals:
 private:
     void onProgress(int percent);
     void onFinished();
+    void onWifiJobStarted(const QString &path);
+    void onStop();
+    // A run of `path` started: a new job unless it is the resumed one.
+    void jobStarted(const QString &path);
+    // Shows the dialog with `next` (a line of the original job) suggested.
+    void offer(int next, bool positionLost);
     // The running job's line `fileLine` in the original job.
     int originalLine(int fileLine) const;
 
     QPointer<MachineController> m_machine;
     QPointer<QWidget> m_dialogParent;
     QPointer<Jk_com> m_watched;
+    QPointer<WifiLinkController> m_wifi;
+    QPointer<SdJobWatch> m_wifiJob; // the running job's, while one runs on the card
     QPointer<ResumeDialog> m_dialog;
     bool m_jobActive = false;
     QString m_running;  // file the link runs

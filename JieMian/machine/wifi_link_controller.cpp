@@ -4,6 +4,7 @@
 #include "machine_controller.h"
 #include "message_box.h"
 #include "program_state.h"
+#include "sd_job_watch.h"
 #include "settings_store.h"
 
 #include <QAbstractButton>
@@ -81,6 +82,10 @@ void WifiLinkController::connectTo(const QString &host, int httpPort)
         connect(m_link, &HttpThread::send_Jin_Du_Zhi, this, &WifiLinkController::onUploadProgress);
         connect(m_link, &HttpThread::uploadFinished, this, &WifiLinkController::onUploadFinished);
         connect(m_link, &HttpThread::lineReceived, this, &WifiLinkController::lineReceived);
+        connect(m_link, &HttpThread::runStarted, this, &WifiLinkController::onRunStarted);
+        connect(m_link, &HttpThread::send_Yun_Xing_Zhi, m_machine,
+                &MachineController::onWifiProgress);
+        m_jobWatch = new SdJobWatch(m_link, this);
     }
     m_closing = false;
     m_link->setAddress(host, httpPort, m_wsPort);
@@ -146,6 +151,7 @@ void WifiLinkController::uploadAndRun(const QString &path)
     m_progress->setValue(0);
     m_progress->show();
     m_jobUploading = true;
+    m_jobPath = path;
     m_link->uploadFile(path, jobName());
 }
 
@@ -174,8 +180,28 @@ void WifiLinkController::onUploadFinished(bool ok, const QString &error)
         lumitra::show_notice(m_dialogParent, text);
         return;
     }
+    // One motor step decides which lines surely make a planner block.
+    const QMap<QString, QString> settings = m_machine->machineSettings();
+    const double stepsX = settings.value(QStringLiteral("$100")).toDouble();
+    const double stepsY = settings.value(QStringLiteral("$101")).toDouble();
+    m_jobWatch->setStepSizes(stepsX > 0.0 ? 1.0 / stepsX : 0.0, stepsY > 0.0 ? 1.0 / stepsY : 0.0);
+    m_jobWatch->askForBufferReports();
+    m_jobStarting = true;
     m_link->runFile(QLatin1Char('/') + jobName());
-    emit jobStarted();
+}
+
+void WifiLinkController::onRunStarted(bool ok, const QString &error)
+{
+    if (!m_jobStarting)
+        return;
+    m_jobStarting = false;
+    if (!ok) {
+        qDebug() << " out wifi run" << error;
+        lumitra::show_notice(m_dialogParent, tr("设备未能开始作业: %1").arg(error));
+        return;
+    }
+    m_jobWatch->jobStarted(m_jobPath);
+    emit jobStarted(m_jobPath);
 }
 
 void WifiLinkController::showState()

@@ -4,11 +4,13 @@
 // the link dropping mid-job.
 #include "window_driver.h"
 
+#include "burn_check.h"
 #include "controller_search_dialog.h"
 #include "fake_board.h"
 #include "http_thread.h"
 #include "machine_controller.h"
 #include "program_state.h"
+#include "resume_dialog.h"
 #include "sd_file_manager.h"
 #include "settings_store.h"
 #include "wifi_link_controller.h"
@@ -16,11 +18,14 @@
 #include "wifi_tools_controller.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QTemporaryFile>
 #include <QToolButton>
 
@@ -145,6 +150,66 @@ private slots:
         QTRY_VERIFY(w.machineController()->busy()); // Run came over the WebSocket
         QTRY_VERIFY_WITH_TIMEOUT(!w.machineController()->busy(), 5000); // then Idle
         QVERIFY(busy.size() >= 2);
+    }
+
+    // A job on the card shows its progress and time left; an alarm halfway
+    // offers to resume it at the line the board had surely run, and the
+    // resumed job, uploaded and started like any, completes the burn with no
+    // gap.
+    void cardJobShowsTimeLeftAndResumesAfterAlarm()
+    {
+        const quint32 seed = QRandomGenerator::system()->generate();
+        qInfo("seed %u", seed);
+        QRandomGenerator random(seed);
+        const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
+        QTemporaryFile file(QDir::temp().filePath("lumitra-XXXXXX.nc"));
+        QVERIFY(file.open());
+        file.write((job.join('\n') + '\n').toLatin1());
+        file.close();
+
+        FakeBoard::Options o;
+        o.executeJobs = true;
+        o.msPerBlock = 12;
+        o.reportIntervalMs = 60;
+        o.alarmAtBlock = 100 + int(random.bounded(100));
+        FakeBoard board(o);
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        w.machineController()->runJob(file.fileName());
+        QTRY_VERIFY(board.commands().contains(QStringLiteral("[ESP220]/001.nc")));
+        QCOMPARE(board.settings().value(10), QStringLiteral("3")); // "Bf:" asked for
+
+        QLabel *remaining = child<QLabel>(&w, "remaining_Lab");
+        QTRY_VERIFY2(remaining->text().startsWith(QStringLiteral("剩余 ")),
+                     qPrintable(remaining->text()));
+        QTRY_VERIFY(child<QProgressBar>(&w, "progress_Bar")->value() > 0);
+
+        QTRY_VERIFY_WITH_TIMEOUT(w.findChild<ResumeDialog *>(), 10000);
+        ResumeDialog *dialog = w.findChild<ResumeDialog *>();
+        QTRY_VERIFY(remaining->text().isEmpty());
+        QVERIFY(child<QLabel>(dialog, "warning_Lab")->isVisibleTo(dialog)); // home first
+        const CardJobRunner &first = *board.jobRunner(); // until the resumed job starts
+        const int from = dialog->line();
+        const int mayHaveRun = first.linesRead();
+        qInfo("resume offered at %d; the board had read %d lines, run through %d", from, mayHaveRun,
+              first.lastRunLine());
+        QVERIFY(from > 1 && from <= first.firstQueuedLine());
+        // The alarm was confirmed (reset and home); then the user resumes.
+        QTRY_VERIFY(board.commands().contains(QString(QChar(0x18))));
+        QTRY_VERIFY(!w.machineController()->busy());
+        dialog->accept();
+        QTRY_COMPARE(board.uploadCount(), 2);
+        QTRY_COMPARE(board.commands().count(QStringLiteral("[ESP220]/001.nc")), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(!board.jobRunning(), 20000);
+        QVERIFY(board.jobRunner()->finished());
+        QList<burn_check::Burn> ran;
+        for (const auto &move : board.executedMoves())
+            if (move.burning)
+                ran.append({move.from, move.to, move.power, 0});
+        const QString wrong = burn_check::compare(job, ran, from, mayHaveRun);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
 
     void droppedLinkMidJobLeavesAUsableWindow()
