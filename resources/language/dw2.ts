@@ -2537,6 +2537,10 @@ Fortfahren?</translation>
         <source>已连接</source>
         <translation>Verbunden</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>Die Maschine hat den Auftrag nicht gestartet: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@
         <source>已连接</source>
         <translation>Подключено</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>Станок не запустил задание: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@ Continuer&#xa0;?</translation>
         <source>已连接</source>
         <translation>Connecté</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>La machine n&apos;a pas démarré la tâche&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@
         <source>已连接</source>
         <translation>연결됨</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>기기가 작업을 시작하지 못했습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@ Continuar?</translation>
         <source>已连接</source>
         <translation>Conectado</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>A máquina não iniciou o trabalho: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@
         <source>已连接</source>
         <translation>接続済み</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>マシンがジョブを開始しませんでした: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@
         <source>已连接</source>
         <translation>Conectado</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>La máquina no inició el trabajo: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

@@ -2537,6 +2537,10 @@ Continuare?</translation>
         <source>已连接</source>
         <translation>Connesso</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>La macchina non ha avviato il lavoro: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

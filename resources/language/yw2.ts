@@ -2537,6 +2537,10 @@ Continue?</translation>
         <source>已连接</source>
         <translation>Connected</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>The machine did not start the job: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>

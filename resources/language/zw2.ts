@@ -2537,6 +2537,10 @@
         <source>已连接</source>
         <translation>已连接</translation>
     </message>
+    <message>
+        <source>设备未能开始作业: %1</source>
+        <translation>设备未能开始作业: %1</translation>
+    </message>
 </context>
 <context>
     <name>WifiToolsController</name>
