@@ -75,6 +75,7 @@ int ExecutionTracker::sureBlocks(const QString &line)
     if (w.system) {
         // Homing or a jog moves the head somewhere this model does not follow.
         m_knownX = m_knownY = false;
+        m_anchoredX = m_anchoredY = false;
         return 0;
     }
     bool setsPosition = false; // G92, G10, G28, G30, G53: not followed
@@ -89,16 +90,16 @@ int ExecutionTracker::sureBlocks(const QString &line)
             m_inches = false;
         else if (g == 92 || g == 10 || g == 28 || g == 30 || g == 53 || g == 92.1)
             setsPosition = true;
-    }
-    if (!w.hasX && !w.hasY) {
-        if (setsPosition)
-            m_knownX = m_knownY = false;
-        return 0;
+        else if (g == 2 || g == 3)
+            m_sawArc = true;
     }
     if (setsPosition) {
         m_knownX = m_knownY = false;
+        m_anchoredX = m_anchoredY = false;
         return 0;
     }
+    if (!w.hasX && !w.hasY)
+        return 0;
     const double unit = m_inches ? 25.4 : 1.0;
     double dx = 0.0, dy = 0.0;
     bool sureX = false, sureY = false;
@@ -107,7 +108,7 @@ int ExecutionTracker::sureBlocks(const QString &line)
             dx = w.x * unit - m_x;
             sureX = m_knownX;
             m_x = w.x * unit;
-            m_knownX = true;
+            m_knownX = m_anchoredX = true;
         } else {
             dx = w.x * unit;
             sureX = true;
@@ -119,7 +120,7 @@ int ExecutionTracker::sureBlocks(const QString &line)
             dy = w.y * unit - m_y;
             sureY = m_knownY;
             m_y = w.y * unit;
-            m_knownY = true;
+            m_knownY = m_anchoredY = true;
         } else {
             dy = w.y * unit;
             sureY = true;
@@ -130,6 +131,32 @@ int ExecutionTracker::sureBlocks(const QString &line)
     const bool moves =
         (sureX && std::fabs(dx) >= m_stepX - 1e-9) || (sureY && std::fabs(dy) >= m_stepY - 1e-9);
     return moves ? 1 : 0;
+}
+
+ExecutionTracker::ParserModel ExecutionTracker::parserModel() const
+{
+    ParserModel m;
+    m.absolute = m_absolute;
+    m.inches = m_inches;
+    m.knownX = m_knownX;
+    m.knownY = m_knownY;
+    m.anchoredX = m_anchoredX;
+    m.anchoredY = m_anchoredY;
+    m.x = m_x;
+    m.y = m_y;
+    return m;
+}
+
+void ExecutionTracker::setParserModel(const ParserModel &model)
+{
+    m_absolute = model.absolute;
+    m_inches = model.inches;
+    m_knownX = model.knownX;
+    m_knownY = model.knownY;
+    m_anchoredX = model.anchoredX;
+    m_anchoredY = model.anchoredY;
+    m_x = model.x;
+    m_y = model.y;
 }
 
 void ExecutionTracker::lineSent(int number, const QString &line)

@@ -69,6 +69,26 @@ public:
     // Public for the tests.
     int sureBlocks(const QString &line);
 
+    // The parser state sureBlocks() follows: where the head is after the
+    // lines so far (mm of the work coordinates, the job taken to start at
+    // 0,0) and whether that is known (not after homing, G92, G10, G28, G30,
+    // G53); anchored once an absolute move has set the axis, so that the
+    // position no longer rests on where the job started.
+    struct ParserModel
+    {
+        bool absolute = true;
+        bool inches = false;
+        bool knownX = true, knownY = true;
+        bool anchoredX = false, anchoredY = false;
+        double x = 0.0, y = 0.0;
+        bool anchored() const { return knownX && knownY && anchoredX && anchoredY; }
+    };
+    ParserModel parserModel() const;
+    void setParserModel(const ParserModel &model);
+    // Whether the lines so far had an arc (G2/G3), which runs off the line
+    // between its end points.
+    bool sawArc() const { return m_sawArc; }
+
 private:
     struct Acked
     {
@@ -87,8 +107,10 @@ private:
     bool m_absolute = true;
     bool m_inches = false;
     bool m_knownX = true, m_knownY = true;
+    bool m_anchoredX = false, m_anchoredY = false;
     double m_x = 0.0, m_y = 0.0;
     double m_stepX = 0.1, m_stepY = 0.1;
+    bool m_sawArc = false;
 
     std::deque<Sent> m_inFlight;   // sent, not answered
     std::deque<Acked> m_unsettled; // answered, maybe still in the planner

@@ -30,6 +30,10 @@ bool SdJobProgress::index(const QString &path, double stepXmm, double stepYmm, Q
     }
     ExecutionTracker blocks; // its parser model says which lines surely make a block
     blocks.setStepSizes(stepXmm, stepYmm);
+    if (stepXmm > 0.0)
+        m_stepX = stepXmm;
+    if (stepYmm > 0.0)
+        m_stepY = stepYmm;
     m_path = path;
     m_size = file.size();
     qint64 offset = 0;
@@ -37,8 +41,11 @@ bool SdJobProgress::index(const QString &path, double stepXmm, double stepYmm, Q
         const QByteArray raw = file.readLine();
         if (raw.isEmpty())
             break;
-        if (m_lines % kIndexStride == 0)
+        if (m_lines % kIndexStride == 0) {
             m_marks.append(offset);
+            m_markModels.append(blocks.parserModel());
+            m_markArcs.append(blocks.sawArc());
+        }
         ++m_lines;
         offset += raw.size();
         m_sureBlocks.push_back(blocks.sureBlocks(lineText(raw)) > 0);
@@ -59,9 +66,29 @@ bool SdJobProgress::statusReport(const QString &report)
     const auto m = sdField.match(report);
     if (!m.hasMatch())
         return false;
-    // Percent and free blocks of one report belong together.
+    // Percent, free blocks and position of one report belong together.
     m_percent = m.captured(1).toDouble();
     m_blocksFree = lumitra::grbl::blocksFree(report);
+    static const QRegularExpression field(
+        QStringLiteral("(WPos|MPos|WCO):(-?[\\d.]+),(-?[\\d.]+)"));
+    bool work = false, machine = false;
+    QPointF wpos, mpos;
+    for (auto it = field.globalMatch(report); it.hasNext();) {
+        const auto f = it.next();
+        const QPointF p(f.captured(2).toDouble(), f.captured(3).toDouble());
+        if (f.captured(1) == QLatin1String("WPos")) {
+            work = true;
+            wpos = p;
+        } else if (f.captured(1) == QLatin1String("MPos")) {
+            machine = true;
+            mpos = p;
+        } else {
+            m_hasOffset = true;
+            m_offset = p;
+        }
+    }
+    m_hasPosition = work || (machine && m_hasOffset);
+    m_position = work ? wpos : mpos - m_offset;
     return true;
 }
 
@@ -69,6 +96,8 @@ void SdJobProgress::clearReports()
 {
     m_percent = -1.0;
     m_blocksFree = -1;
+    m_hasPosition = false;
+    m_hasOffset = false;
 }
 
 int SdJobProgress::lineAtByte(qint64 offset) const
@@ -107,7 +136,60 @@ int SdJobProgress::currentLine() const
     return qMin(m_lines, lineAtByte(qint64(m_percent / 100.0 * double(m_size))));
 }
 
+namespace {
+
+// Distance from `p` to the segment a-b.
+double distanceToSegment(const QPointF &p, const QPointF &a, const QPointF &b)
+{
+    const QPointF d = b - a;
+    const double len2 = d.x() * d.x() + d.y() * d.y();
+    double t = 0.0;
+    if (len2 > 0.0)
+        t = qBound(0.0, ((p.x() - a.x()) * d.x() + (p.y() - a.y()) * d.y()) / len2, 1.0);
+    const QPointF q = a + t * d - p;
+    return std::hypot(q.x(), q.y());
+}
+
+} // namespace
+
 int SdJobProgress::resumeLine() const
+{
+    const int byBuffer = resumeLineByBuffer();
+    if (!m_hasPosition || byBuffer <= 1 || m_marks.isEmpty())
+        return byBuffer;
+    // The last line the board may have read by this report.
+    const double high = (m_percent + kPercentStep) / 100.0 * double(m_size);
+    const int lastRead = qMin(m_lines, lineAtByte(qint64(std::ceil(high))));
+    if (lastRead - byBuffer > 64 * kIndexStride)
+        return byBuffer; // too wide to be worth reading
+    const int mark = (byBuffer - 1) / kIndexStride;
+    if (m_markArcs.at(mark))
+        return byBuffer;
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(m_marks.at(mark)))
+        return byBuffer;
+    ExecutionTracker model;
+    model.setParserModel(m_markModels.at(mark));
+    const double tolerance = std::hypot(m_stepX, m_stepY) + 0.002;
+    for (int line = mark * kIndexStride + 1; line <= lastRead; ++line) {
+        const QByteArray raw = file.readLine();
+        if (raw.isEmpty())
+            break;
+        const ExecutionTracker::ParserModel before = model.parserModel();
+        model.sureBlocks(lineText(raw));
+        const ExecutionTracker::ParserModel after = model.parserModel();
+        if (line < byBuffer)
+            continue;
+        if (model.sawArc() || !before.anchored() || !after.anchored())
+            return byBuffer; // the moves from here on are not sure
+        if (distanceToSegment(m_position, QPointF(before.x, before.y), QPointF(after.x, after.y))
+            <= tolerance)
+            return line;
+    }
+    return byBuffer;
+}
+
+int SdJobProgress::resumeLineByBuffer() const
 {
     if (!hasReport() || !m_indexed)
         return 1;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "execution_tracker.h"
+
+#include <QPointF>
 #include <QString>
 #include <QVector>
 #include <vector>
@@ -17,6 +20,12 @@
 //   - of the lines parsed, the last (15 - free) lines that surely make a
 //     planner block may not have run yet (all 15 without a "Bf:" field);
 //   - so every line before the first of those has run.
+// The head's position in that report narrows it down: the block running then
+// holds the position, so the earliest line from there up to the last line the
+// board may have read whose move passes through the position (within a motor
+// step) is a safe place to resume. This is only used when the position is
+// known in the job's coordinates (WPos, or MPos with a WCO seen) and no arc
+// or coordinate change makes the job's moves uncertain.
 // As with the serial link's tracking, everything errs towards "not yet run":
 // resuming from resumeLine() leaves no gap and burns again at most what the
 // planner and the receive buffer held (and what ran after the last report).
@@ -63,6 +72,12 @@ public:
     int currentLine() const;
     // The first line not surely executed: a resumed job starts here.
     int resumeLine() const;
+    // The same from the read share and the planner alone (no position).
+    int resumeLineByBuffer() const;
+    // The head's position in the job's coordinates at the last report taken,
+    // when known.
+    bool hasPosition() const { return m_hasPosition; }
+    QPointF position() const { return m_position; }
 
 private:
     QString m_path;
@@ -71,6 +86,14 @@ private:
     int m_lines = 0;
     QVector<qint64> m_marks;        // byte offset of lines 1, 1 + stride, ...
     std::vector<bool> m_sureBlocks; // per line, index 0 = line 1
-    double m_percent = -1.0;        // last running report's percent
-    int m_blocksFree = -1;          // and its free blocks (-1: not reported)
+    // The parser model before each mark's line, and whether an arc came before.
+    QVector<ExecutionTracker::ParserModel> m_markModels;
+    QVector<bool> m_markArcs;
+    double m_stepX = 0.1, m_stepY = 0.1;
+    double m_percent = -1.0;    // last running report's percent
+    int m_blocksFree = -1;      // and its free blocks (-1: not reported)
+    bool m_hasPosition = false; // and the head's position (work coordinates)
+    QPointF m_position;
+    bool m_hasOffset = false; // the last work coordinate offset reported (WCO)
+    QPointF m_offset;
 };

@@ -17,6 +17,7 @@ private slots:
     void sureBlocksFollowTheParser();
     void takesOnlyRunningReportsWithProgress();
     void resumeLineByHand();
+    void positionNarrowsTheResumeLine();
     void resumeLineNeverSkipsWhatDidNotRun();
 
 private:
@@ -130,6 +131,61 @@ void TestSdJobProgress::resumeLineByHand()
     QCOMPARE(p.resumeLine(), 1);
 }
 
+void TestSdJobProgress::positionNarrowsTheResumeLine()
+{
+    // Line 1 goes to 0,0; line k (2 .. 400) moves to X k-1: 7 bytes each.
+    auto job = [](const QByteArray &first, int arcAt = -1) {
+        QByteArray bytes = first;
+        for (int x = 1; x < 400; ++x)
+            bytes += (x + 1 == arcAt ? "G2X" : "G1X") + QByteArray::number(x).rightJustified(3, '0')
+                     + "\n";
+        return bytes;
+    };
+    SdJobProgress p;
+    QVERIFY(p.index(write(job("G0X0Y0\n"))));
+    QCOMPARE(p.size(), qint64(2800));
+    // 50 % read: the buffer alone says line 177 (as by hand above, 7-byte
+    // lines); read at most through line 201. The head at X 190.5 is on line
+    // 192's move (X190 -> X191).
+    p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLineByBuffer(), 177);
+    QCOMPARE(p.resumeLine(), 192);
+    // Machine position with the work offset seen in an earlier report.
+    p.clearReports();
+    p.statusReport("<Run|MPos:200.500,10.000,0.000|WCO:10.000,10.000,0.000|Bf:10,0|SD:40.00,/"
+                   "001.nc>");
+    p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 192);
+    // Machine position and no offset known: the buffer's answer.
+    p.clearReports();
+    p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QVERIFY(!p.hasPosition());
+    QCOMPARE(p.resumeLine(), 177);
+    // A position no line read so far passes through: the buffer's answer.
+    p.statusReport("<Run|WPos:250.000,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 177);
+    // An arc in between, or a job whose moves rest on where it started.
+    QVERIFY(p.index(write(job("G0X0Y0\n", 185))));
+    p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 177);
+    QVERIFY(p.index(write(job("G91X0Y0\n"))));
+    p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 177);
+
+    // A square burnt over and over: the head on its bottom side is on every
+    // pass the board may have read; the earliest of them is the safe one.
+    QByteArray passes = "G0X0Y0\n";
+    for (int pass = 0; pass < 100; ++pass)
+        passes += "G1X10Y0\nG1X10Y10\nG1X0Y10\nG1X0Y0\n";
+    QVERIFY(p.index(write(passes)));
+    p.statusReport("<Run|WPos:5.000,0.000,0.000|Bf:3,0|SD:50.00,/001.nc>");
+    int firstBottom = p.resumeLineByBuffer();
+    while ((firstBottom - 2) % 4 != 0)
+        ++firstBottom;
+    QVERIFY(firstBottom + 8 < p.lineAtByte(p.size() / 2)); // later passes were read too
+    QCOMPARE(p.resumeLine(), firstBottom);
+}
+
 // A board that really runs random jobs from its card, stopped at random:
 // every line before the resume line has run in full, and the resume line is
 // no further back than the planner and the receive buffer explain.
@@ -165,7 +221,11 @@ void TestSdJobProgress::resumeLineNeverSkipsWhatDidNotRun()
         QVERIFY(board.open(path, 1));
         board.advance(int(random.bounded(quint32(lines))));
         const bool withBuffer = random.bounded(2) == 0;
-        QByteArray report = "<Run|MPos:0,0,0";
+        // Half the reports give the head's position, as GRBL: in steps.
+        QByteArray report = "<Run";
+        if (random.bounded(2) == 0)
+            report += "|WPos:" + QByteArray::number(board.position().x(), 'f', 3) + ","
+                      + QByteArray::number(board.position().y(), 'f', 3) + ",0.000";
         if (withBuffer)
             report += "|Bf:" + QByteArray::number(15 - board.queuedBlocks()) + ",0";
         report += "|SD:" + QByteArray::number(board.percentRead(), 'f', 2) + ",/001.nc>";

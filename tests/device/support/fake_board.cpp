@@ -590,6 +590,8 @@ QByteArray FakeBoard::statusReport(const char *state)
         QByteArray report = QByteArray("<") + state + "|MPos:" + QByteArray::number(at.x(), 'f', 3)
                             + ',' + QByteArray::number(at.y(), 'f', 3)
                             + ",0.000|FS:" + (m_jobRunning ? "1000,500" : "0,0");
+        // As GRBL, the work offset now and then (every report here).
+        report += "|WCO:0.000,0.000,0.000";
         if (m_settings.value(10).toInt() & 2)
             report += "|Bf:" + QByteArray::number(15 - m_runner->queuedBlocks()) + ",127";
         if (m_jobRunning) {
