@@ -86,6 +86,9 @@ void WifiLinkController::connectTo(const QString &host, int httpPort)
         connect(m_link, &HttpThread::send_Yun_Xing_Zhi, m_machine,
                 &MachineController::onWifiProgress);
         m_jobWatch = new SdJobWatch(m_link, this);
+        // The last report of a finished job may say 99.9 %.
+        connect(m_jobWatch, &SdJobWatch::finished, m_machine,
+                [this] { m_machine->onWifiProgress(100.0f); });
     }
     m_closing = false;
     m_link->setAddress(host, httpPort, m_wsPort);

@@ -204,6 +204,7 @@ private slots:
         QTRY_COMPARE(board.commands().count(QStringLiteral("[ESP220]/001.nc")), 2);
         QTRY_VERIFY_WITH_TIMEOUT(!board.jobRunning(), 20000);
         QVERIFY(board.jobRunner()->finished());
+        QTRY_COMPARE(child<QProgressBar>(&w, "progress_Bar")->value(), 100);
         QList<burn_check::Burn> ran;
         for (const auto &move : board.executedMoves())
             if (move.burning)
