@@ -120,6 +120,7 @@ void ResumeOffer::interrupted(bool positionLost)
 
 void ResumeOffer::offer(int next, bool positionLost)
 {
+    m_positionLost = positionLost;
     QStringList job;
     QString error;
     if (!lumitra::gcode::readJobLines(m_original, &job, &error) || next > job.size())
@@ -139,6 +140,13 @@ bool ResumeOffer::resumeFrom(int line)
 {
     if (!m_machine)
         return false;
+    // A board that lost its WiFi link may still be running the job from its
+    // card: nothing is sent before it is idle, and the offer stays.
+    if (m_machine->busy()) {
+        lumitra::show_notice(m_dialogParent, tr("设备雕刻中,暂时停止使用!"));
+        offer(line, m_positionLost);
+        return false;
+    }
     QStringList job;
     QString error;
     if (!lumitra::gcode::readJobLines(m_original, &job, &error) || line < 1 || line > job.size()

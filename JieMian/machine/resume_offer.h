@@ -75,8 +75,9 @@ private:
     QPointer<SdJobWatch> m_wifiJob; // the running job's, while one runs on the card
     QPointer<ResumeDialog> m_dialog;
     bool m_jobActive = false;
-    QString m_running;  // file the link runs
-    QString m_original; // the job it stands for
+    bool m_positionLost = false; // of the interruption on offer
+    QString m_running;           // file the link runs
+    QString m_original;          // the job it stands for
     int m_preambleLines = 0;
     int m_firstJobLine = 1;
     QTemporaryDir m_dir; // resumed jobs

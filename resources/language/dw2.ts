@@ -1805,6 +1805,10 @@ Fortfahren?</translation>
         <source>无法继续作业。</source>
         <translation>Der Auftrag kann nicht fortgesetzt werden.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1805,6 +1805,10 @@
         <source>无法继续作业。</source>
         <translation>Не удалось продолжить задание.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>Идёт гравировка, функция временно недоступна!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

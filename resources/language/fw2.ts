@@ -1805,6 +1805,10 @@ Continuer&#xa0;?</translation>
         <source>无法继续作业。</source>
         <translation>Impossible de reprendre le travail.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

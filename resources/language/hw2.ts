@@ -1805,6 +1805,10 @@
         <source>无法继续作业。</source>
         <translation>작업을 재개할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>기기가 각인 중입니다. 지금은 사용할 수 없습니다!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1805,6 +1805,10 @@ Continuar?</translation>
         <source>无法继续作业。</source>
         <translation>Não é possível retomar o trabalho.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>A máquina está gravando; indisponível no momento!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

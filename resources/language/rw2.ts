@@ -1805,6 +1805,10 @@
         <source>无法继续作业。</source>
         <translation>ジョブを再開できません。</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>加工中のため、現在は使用できません。</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1805,6 +1805,10 @@
         <source>无法继续作业。</source>
         <translation>No se puede reanudar el trabajo.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>La máquina está grabando; ¡no disponible por ahora!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1805,6 +1805,10 @@ Continuare?</translation>
         <source>无法继续作业。</source>
         <translation>Impossibile riprendere il lavoro.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>La macchina sta incidendo; non disponibile al momento!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

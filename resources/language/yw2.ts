@@ -1805,6 +1805,10 @@ Continue?</translation>
         <source>无法继续作业。</source>
         <translation>The job cannot be resumed.</translation>
     </message>
+    <message>
+        <source>设备雕刻中,暂时停止使用!</source>
+        <translation>The machine is engraving; not available for now!</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -213,6 +213,57 @@ private slots:
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
 
+    // The WiFi link drops while the board burns on from its card: the resume
+    // offered is refused while the reconnected board still runs the job (an
+    // upload would replace the file it is reading), and works once it is idle.
+    void droppedLinkDoesNotResumeOverARunningCard()
+    {
+        QRandomGenerator random(5);
+        const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
+        QTemporaryFile file(QDir::temp().filePath("lumitra-XXXXXX.nc"));
+        QVERIFY(file.open());
+        file.write((job.join('\n') + '\n').toLatin1());
+        file.close();
+        FakeBoard::Options o;
+        o.executeJobs = true;
+        o.msPerBlock = 15;
+        o.reportIntervalMs = 60;
+        FakeBoard board(o);
+        QVERIFY(board.start());
+        Widget w;
+        w.show();
+        QVERIFY(connectWindow(w, board));
+        w.machineController()->runJob(file.fileName());
+        QTRY_VERIFY_WITH_TIMEOUT(board.jobRunner() && board.jobRunner()->blocksRun() > 40, 10000);
+        board.dropWebSockets();
+        QTRY_VERIFY(w.findChild<ResumeDialog *>());
+        QTRY_VERIFY(m_asked.messages().contains(QStringLiteral("WiFi连接意外断开!")));
+        QVERIFY(board.jobRunning()); // the card job goes on
+
+        QVERIFY(connectWindow(w, board));
+        QTRY_VERIFY(w.machineController()->busy());
+        w.findChild<ResumeDialog *>()->accept();
+        QTRY_COMPARE(m_asked.messages().last(), QStringLiteral("设备雕刻中,暂时停止使用!"));
+        QTRY_VERIFY(w.findChild<ResumeDialog *>()); // offered again
+        QCOMPARE(board.uploadCount(), 1);
+
+        QTRY_VERIFY_WITH_TIMEOUT(!board.jobRunning(), 20000);
+        QTRY_VERIFY(!w.machineController()->busy());
+        ResumeDialog *again = w.findChild<ResumeDialog *>();
+        const int from = again->line();
+        again->accept();
+        QTRY_COMPARE(board.uploadCount(), 2);
+        QTRY_COMPARE(board.commands().count(QStringLiteral("[ESP220]/001.nc")), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(!board.jobRunning(), 20000);
+        QList<burn_check::Burn> ran;
+        for (const auto &move : board.executedMoves())
+            if (move.burning)
+                ran.append({move.from, move.to, move.power, 0});
+        // The board ran the whole job after the drop: from `from` on, twice.
+        const QString wrong = burn_check::compare(job, ran, from, job.size());
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    }
+
     void droppedLinkMidJobLeavesAUsableWindow()
     {
         FakeBoard::Options o;
