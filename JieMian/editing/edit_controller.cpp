@@ -46,6 +46,11 @@ EditController::EditController(DesignPages *pages, QWidget *window, QObject *par
                 emit selectionChanged(bounds, count);
                 emit selectionTextChanged(placementText(bounds, count));
             });
+    // The node tool changes one outline: its size follows while a node moves.
+    connect(m_nodeTool.get(), &NodeTool::outlineChanged, this, [this](const QRectF &bounds) {
+        emit selectionChanged(bounds, 1);
+        emit selectionTextChanged(placementText(bounds, 1));
+    });
     makeActions(window);
     makeToolActions(window);
     connect(pages, &DesignPages::currentPageChanged, this, &EditController::onPageChanged);

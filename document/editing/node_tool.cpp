@@ -1,5 +1,6 @@
 #include "node_tool.h"
 
+#include "item_geometry.h"
 #include "jk_chang_jing.h"
 #include "jk_tu_yuan.h"
 #include "selection_tool.h"
@@ -264,6 +265,8 @@ void NodeTool::showOverlay()
     m_overlay->setVisible(m_item);
     m_overlay->setModel(m_model, m_item ? m_item->sceneTransform() : QTransform(), m_node,
                         m_segmentSubpath, m_segment);
+    if (m_item)
+        emit outlineChanged(outlineBounds(m_item.data()));
 }
 
 void NodeTool::updateActions()

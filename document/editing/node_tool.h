@@ -99,6 +99,11 @@ public slots:
     // or an undo).
     void refresh();
 
+signals:
+    // The edited item's outline bounds in scene mm, after every change of its
+    // outline (also while a node is dragged) and when an item is taken.
+    void outlineChanged(const QRectF &sceneBounds);
+
 private:
     void setItem(Jk_tu_yuan *item);
     void showOverlay();

@@ -6,6 +6,7 @@
 #include "settings_store.h"
 #include "window_driver.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -108,6 +109,37 @@ private slots:
         node->trigger();
         QVERIFY(node->isChecked());
         QVERIFY(!w.editController()->toolAction(2)->isChecked());
+    }
+
+    // While the node tool drags a corner, the status bar shows the new size.
+    void nodeDragShowsTheNewSize()
+    {
+        Widget w;
+        w.resize(1280, 720);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        Driver d(&w);
+        d.drawRectangle(QPointF(50, -50), QPointF(120, -100)); // 70 x 50 mm
+        Driver::settle();
+        QLabel *status = child<QLabel>(&w, "selection_Lab");
+        d.tool(0);
+        d.click(QPointF(85, -50)); // on its top edge
+        QVERIFY2(status->text().contains("W: 70.00"), qPrintable(status->text()));
+        w.editController()->nodeToolAction()->trigger();
+        d.mouse(QEvent::MouseButtonPress, QPointF(120, -100), Qt::LeftButton, Qt::LeftButton);
+        d.mouse(QEvent::MouseMove, QPointF(130, -100), Qt::NoButton, Qt::LeftButton);
+        d.mouse(QEvent::MouseMove, QPointF(140, -100), Qt::NoButton, Qt::LeftButton);
+        // The corner moved 20 mm right (within the view's pixels): W 90, H 50.
+        auto sizeShown = [status] {
+            const auto m = QRegularExpression("W: ([\\d.]+)  H: ([\\d.]+)").match(status->text());
+            return m.hasMatch() ? QSizeF(m.captured(1).toDouble(), m.captured(2).toDouble())
+                                : QSizeF();
+        };
+        QVERIFY2(qAbs(sizeShown().width() - 90) < 1 && qAbs(sizeShown().height() - 50) < 1,
+                 qPrintable(status->text()));
+        d.mouse(QEvent::MouseButtonRelease, QPointF(140, -100), Qt::LeftButton, Qt::NoButton);
+        Driver::settle();
+        QVERIFY2(qAbs(sizeShown().width() - 90) < 1, qPrintable(status->text()));
     }
 
     // The preview button opens the preview with the job loaded in its player.

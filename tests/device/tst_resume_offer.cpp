@@ -192,6 +192,7 @@ void TestResumeOffer::offerAfterAnInterruption()
     // Settle the machine as the user would (home clears the alarm), then go on.
     m_panel->form().home_Btn->click();
     QTRY_VERIFY(!fake.inAlarm());
+    QTRY_VERIFY(!m_controller->busy()); // a busy machine is not sent a resume
     const int received = fake.lineCount();
     QSignalSpy resumed(&offer, &ResumeOffer::resumed);
     QSignalSpy finished(m_controller->link(), &Jk_com::jobFinished);
