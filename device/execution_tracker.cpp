@@ -1,7 +1,5 @@
 #include "execution_tracker.h"
 
-#include "gcode_line_code.h"
-
 #include <QRegularExpression>
 #include <cmath>
 
@@ -36,33 +34,98 @@ struct LineWords
     bool system = false; // a "$" line
 };
 
+// The words of a line as the controller reads them: letters (either case)
+// with a number after them ("X 10", "x-.5"), comments in parentheses and after
+// ";" left out. Written out by hand: it runs for every line streamed and for
+// every line of a job on the card.
 LineWords readWords(const QString &raw)
 {
     LineWords w;
-    const QString line = lumitra::gcodeLineCode(raw);
-    if (line.startsWith(QLatin1Char('$'))) {
+    const QChar *text = raw.constData();
+    const int n = raw.size();
+    int i = 0;
+    while (i < n && text[i].isSpace())
+        ++i;
+    if (i < n && text[i] == QLatin1Char('$')) {
         w.system = true;
         return w;
     }
-    static const QRegularExpression word(QStringLiteral("([A-Z])\\s*([-+]?\\d*\\.?\\d+)"));
-    for (auto it = word.globalMatch(line); it.hasNext();) {
-        const auto m = it.next();
-        const double v = m.captured(2).toDouble();
-        switch (m.captured(1).at(0).unicode()) {
+    auto digit = [&](int k) {
+        return k < n && text[k] >= QLatin1Char('0') && text[k] <= QLatin1Char('9');
+    };
+    while (i < n) {
+        const ushort c = text[i].unicode();
+        if (c == ';')
+            break;
+        if (c == '(') {
+            while (i < n && text[i] != QLatin1Char(')'))
+                ++i;
+            ++i;
+            continue;
+        }
+        const ushort letter = c >= 'a' && c <= 'z' ? ushort(c - 'a' + 'A') : c;
+        if (letter < 'A' || letter > 'Z') {
+            ++i;
+            continue;
+        }
+        int k = i + 1;
+        while (k < n && (text[k] == QLatin1Char(' ') || text[k] == QLatin1Char('\t')))
+            ++k;
+        bool negative = false;
+        if (k < n && (text[k] == QLatin1Char('-') || text[k] == QLatin1Char('+'))) {
+            negative = text[k] == QLatin1Char('-');
+            ++k;
+        }
+        // Digits as a whole number and a power of ten: one correctly rounded
+        // division gives the same double as reading the text ("92.1").
+        qint64 mantissa = 0;
+        int decimals = 0;
+        int digits = 0;
+        while (digit(k)) {
+            if (digits < 18) {
+                mantissa = mantissa * 10 + (text[k].unicode() - '0');
+                ++digits;
+            }
+            ++k;
+        }
+        bool any = digits > 0;
+        if (k < n && text[k] == QLatin1Char('.') && digit(k + 1)) {
+            ++k;
+            while (digit(k)) {
+                if (digits < 18) {
+                    mantissa = mantissa * 10 + (text[k].unicode() - '0');
+                    ++digits;
+                    ++decimals;
+                }
+                any = true;
+                ++k;
+            }
+        }
+        if (!any) {
+            ++i; // a letter without a number
+            continue;
+        }
+        static const double kPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 1e9,
+                                         1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
+        double value = double(mantissa) / kPowers[decimals];
+        if (negative)
+            value = -value;
+        switch (letter) {
         case 'G':
-            w.g.append(v);
+            w.g.append(value);
             break;
         case 'X':
             w.hasX = true;
-            w.x = v;
+            w.x = value;
             break;
         case 'Y':
             w.hasY = true;
-            w.y = v;
+            w.y = value;
             break;
         default:
             break;
         }
+        i = k;
     }
     return w;
 }

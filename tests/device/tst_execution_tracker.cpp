@@ -36,6 +36,23 @@ void TestExecutionTracker::sureBlocks_data()
         << QStringList{"G91", "G1X0.1S200", "X0.05S0", "X-3", "G90X0"} << QList<int>{0, 1, 0, 1, 1};
     QTest::newRow("inches") << QStringList{"G20", "G91", "G1X0.01", "X0.001"}
                             << QList<int>{0, 0, 1, 0};
+    // As the controller reads words: either case, blanks inside, comments out.
+    QTest::newRow("how words are written") << QStringList{"g0 x 10 y10",
+                                                          "G1 X10 ; X99",
+                                                          "(to X50) G1 X10",
+                                                          "G1 X+10.0 Y 10.",
+                                                          "x12.",
+                                                          "G1X-.5",
+                                                          "G1 X-0.5 (same)",
+                                                          "G91",
+                                                          "X.1",
+                                                          "x .1 (relative)",
+                                                          "X",
+                                                          "G90 Y.05"}
+                                           << QList<int>{1, 0, 0, 0, 1, 1, 0, 0, 1, 1, 0, 1};
+    QTest::newRow("G92.1 forgets where the head is, G92 too")
+        << QStringList{"G1X10Y10", "G92.1", "G1X20Y10", "G1X30", "G92X0Y0", "G1X5Y5", "X6"}
+        << QList<int>{1, 0, 0, 1, 0, 0, 1};
     QTest::newRow("position unknown after origin set and homing")
         << QStringList{"G92X0Y0", "G1X5", "G1X5Y5", "$H", "G91X1", "G90X7", "X8"}
         << QList<int>{0, 0, 0, 0, 1, 0, 1};
