@@ -28,7 +28,7 @@ bool splitAddress(const QString &address, QString &host, int &port)
 }
 
 // The line to resume from, in the original job when the file is a resumed one.
-void reportResumeLine(SdJobWatch &watch, bool positionLost, const HeadlessWifiOptions &options,
+void reportResumeLine(SdJobWatch &watch, bool unreachable, const HeadlessWifiOptions &options,
                       QTextStream &out)
 {
     const int fileLine = watch.resumeLine();
@@ -38,9 +38,11 @@ void reportResumeLine(SdJobWatch &watch, bool positionLost, const HeadlessWifiOp
     const double percent = qMax(0.0, watch.progress().percent());
     out << "stopped at " << QString::number(percent, 'f', 2) << "% of the file; resume from line "
         << jobLine << "\n";
-    if (positionLost)
-        out << "the board was reset or lost power: home it or set the origin again before "
-               "resuming\n";
+    if (unreachable)
+        out << "the board may have lost power or may still be running the job: make sure it has "
+               "stopped, then home it or set the origin again before resuming\n";
+    else
+        out << "the board was reset: home it or set the origin again before resuming\n";
     out.flush();
 }
 
@@ -92,9 +94,6 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
     });
     SdJobWatch watch(&link);
     watch.setPollInterval(options.pollIntervalMs);
-    bool positionLost = false;
-    QObject::connect(&watch, &SdJobWatch::interrupted, &loop,
-                     [&](bool lost) { positionLost = lost; });
 
     int lastUploadPercent = -1;
     QObject::connect(&link, &HttpThread::send_Jin_Du_Zhi, &loop, [&](qint64 sent, qint64 total) {
@@ -187,7 +186,8 @@ int runWifiJobHeadless(const QString &address, int wsPort, const QString &file, 
     if (started && result != HeadlessDone) {
         if (watch.active())
             watch.stopped(); // silent: the last report is all there is
-        reportResumeLine(watch, positionLost, options, out);
+        const bool unreachable = result == HeadlessPortLost || result == HeadlessSilent;
+        reportResumeLine(watch, unreachable, options, out);
     }
     if (link.uploading())
         link.cancelUpload();

@@ -15,7 +15,7 @@ SdJobWatch::SdJobWatch(HttpThread *link, QObject *parent) : QObject(parent), m_l
     connect(link, &HttpThread::lineReceived, this, &SdJobWatch::onLine);
     connect(link, &HttpThread::sendDisconnectMessage, this, [this](int) {
         if (m_active)
-            end(false);
+            end(Ending::LinkLost);
     });
 }
 
@@ -42,6 +42,7 @@ void SdJobWatch::askForBufferReports()
 void SdJobWatch::jobStarted(const QString &localPath)
 {
     m_active = true;
+    m_ending = Ending::Running;
     m_sawRun = false;
     m_lastReport.clear();
     m_progress = SdJobProgress();
@@ -88,7 +89,7 @@ int SdJobWatch::resumeLine()
 void SdJobWatch::stopped()
 {
     if (m_active)
-        end(false);
+        end(Ending::Stopped);
 }
 
 void SdJobWatch::onLine(const QString &line)
@@ -98,7 +99,7 @@ void SdJobWatch::onLine(const QString &line)
     if (!m_active)
         return;
     if (line.startsWith(QLatin1String("ALARM:"))) {
-        end(false);
+        end(Ending::Alarm);
         return;
     }
     if (!line.startsWith(QLatin1Char('<')))
@@ -108,16 +109,17 @@ void SdJobWatch::onLine(const QString &line)
     if (line.startsWith(QLatin1String("<Run")) || line.startsWith(QLatin1String("<Hold")))
         m_sawRun = true;
     else if (line.startsWith(QLatin1String("<Alarm")))
-        end(false);
+        end(Ending::Alarm);
     else if (line.startsWith(QLatin1String("<Idle")) && m_sawRun)
-        end(true);
+        end(Ending::Finished);
 }
 
-void SdJobWatch::end(bool finishedNormally)
+void SdJobWatch::end(Ending how)
 {
     m_active = false;
+    m_ending = how;
     m_poll.stop();
-    if (finishedNormally)
+    if (how == Ending::Finished)
         emit finished();
     else
         emit interrupted(true);

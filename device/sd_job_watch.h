@@ -39,6 +39,9 @@ public:
     void stopped();
 
     bool active() const { return m_active; }
+    // How the last job ended.
+    enum class Ending { Running, Finished, Alarm, LinkLost, Stopped };
+    Ending ending() const { return m_ending; }
     QString jobPath() const { return m_path; }
     // The line the board is reading now (0 before its first report).
     int currentLine() const { return m_progress.currentLine(); }
@@ -55,7 +58,7 @@ signals:
 
 private:
     void onLine(const QString &line);
-    void end(bool finishedNormally);
+    void end(Ending how);
     void applyIndex();
 
     QPointer<HttpThread> m_link;
@@ -67,6 +70,7 @@ private:
     QString m_path;
     double m_stepX = 0.0, m_stepY = 0.0;
     bool m_active = false;
+    Ending m_ending = Ending::Running;
     bool m_sawRun = false;
     QTimer m_poll;
 };

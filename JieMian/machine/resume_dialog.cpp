@@ -60,6 +60,12 @@ ResumeDialog::ResumeDialog(const QStringList &job, int line, bool positionLost, 
 
 ResumeDialog::~ResumeDialog() = default;
 
+void ResumeDialog::setWarning(const QString &text)
+{
+    m_ui->warning_Lab->setText(text);
+    m_ui->warning_Lab->setVisible(true);
+}
+
 int ResumeDialog::line() const
 {
     return m_ui->line_Box->value();

@@ -26,6 +26,8 @@ public:
     ~ResumeDialog() override;
 
     int line() const;
+    // Replaces the warning shown (and shows it).
+    void setWarning(const QString &text);
     void setLine(int line);
     // Where the head goes before line(), in job coordinates (mm).
     QPointF resumePoint() const;

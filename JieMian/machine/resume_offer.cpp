@@ -62,8 +62,14 @@ void ResumeOffer::onWifiJobStarted(const QString &path)
             if (!m_jobActive || !m_wifiJob)
                 return;
             m_jobActive = false;
+            // A board out of reach may have lost power, or may burn on.
+            const QString warning =
+                m_wifiJob->ending() == SdJobWatch::Ending::LinkLost
+                    ? tr("与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,"
+                         "再归位或重新设置原点。")
+                    : QString();
             // The first line not surely run, less one, is the last one run.
-            offer(originalLine(m_wifiJob->resumeLine() - 1) + 1, positionLost);
+            offer(originalLine(m_wifiJob->resumeLine() - 1) + 1, positionLost, warning);
         },
         Qt::UniqueConnection);
     m_jobActive = false;
@@ -118,9 +124,10 @@ void ResumeOffer::interrupted(bool positionLost)
     offer(originalLine(m_watched->lastExecutedLine()) + 1, positionLost);
 }
 
-void ResumeOffer::offer(int next, bool positionLost)
+void ResumeOffer::offer(int next, bool positionLost, const QString &warning)
 {
     m_positionLost = positionLost;
+    m_warning = warning;
     QStringList job;
     QString error;
     if (!lumitra::gcode::readJobLines(m_original, &job, &error) || next > job.size())
@@ -128,6 +135,8 @@ void ResumeOffer::offer(int next, bool positionLost)
     if (m_dialog)
         delete m_dialog;
     m_dialog = new ResumeDialog(job, next, positionLost, m_dialogParent);
+    if (!warning.isEmpty())
+        m_dialog->setWarning(warning);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_dialog, &QDialog::accepted, this, [this] {
         const int line = m_dialog->line();
@@ -144,7 +153,7 @@ bool ResumeOffer::resumeFrom(int line)
     // card: nothing is sent before it is idle, and the offer stays.
     if (m_machine->busy()) {
         lumitra::show_notice(m_dialogParent, tr("设备雕刻中,暂时停止使用!"));
-        offer(line, m_positionLost);
+        offer(line, m_positionLost, m_warning);
         return false;
     }
     QStringList job;

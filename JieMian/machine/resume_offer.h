@@ -64,7 +64,7 @@ private:
     // A run of `path` started: a new job unless it is the resumed one.
     void jobStarted(const QString &path);
     // Shows the dialog with `next` (a line of the original job) suggested.
-    void offer(int next, bool positionLost);
+    void offer(int next, bool positionLost, const QString &warning = QString());
     // The running job's line `fileLine` in the original job.
     int originalLine(int fileLine) const;
 
@@ -76,6 +76,7 @@ private:
     QPointer<ResumeDialog> m_dialog;
     bool m_jobActive = false;
     bool m_positionLost = false; // of the interruption on offer
+    QString m_warning;           // its own warning, when not the reset's
     QString m_running;           // file the link runs
     QString m_original;          // the job it stands for
     int m_preambleLines = 0;

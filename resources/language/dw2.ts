@@ -1809,6 +1809,10 @@ Fortfahren?</translation>
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>Die Maschine graviert gerade; vorübergehend nicht verfügbar!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>Die Verbindung zur Maschine ist getrennt: Sie hat vielleicht keinen Strom mehr oder arbeitet noch. Prüfen Sie zuerst, dass sie steht, und referenzieren Sie sie dann oder setzen Sie den Nullpunkt neu.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1809,6 +1809,10 @@ Continuer&#xa0;?</translation>
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>La machine est en cours de gravure&#xa0;; indisponible pour le moment&#xa0;!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>La connexion à la machine est perdue&#xa0;: elle a peut-être perdu l&apos;alimentation ou travaille encore. Vérifiez d&apos;abord qu&apos;elle est arrêtée, puis faites la prise d&apos;origine ou redéfinissez l&apos;origine.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1809,6 +1809,10 @@
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>기기가 각인 중입니다. 지금은 사용할 수 없습니다!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>기기와의 연결이 끊어졌습니다. 기기의 전원이 꺼졌거나 아직 작업 중일 수 있습니다. 먼저 기기가 멈췄는지 확인한 다음 원점 복귀하거나 원점을 다시 설정하세요.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

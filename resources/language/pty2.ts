@@ -1809,6 +1809,10 @@ Continuar?</translation>
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>A máquina está gravando; indisponível no momento!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>A ligação à máquina foi perdida: ela pode ter ficado sem energia ou ainda estar a trabalhar. Confirme primeiro que parou e depois faça o homing ou defina a origem de novo.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

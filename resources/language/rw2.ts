@@ -1809,6 +1809,10 @@
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>加工中のため、現在は使用できません。</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>マシンとの接続が切れました。電源が切れたか、まだ動作中の可能性があります。まず停止していることを確認してから、原点復帰するか原点を設定し直してください。</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1809,6 +1809,10 @@
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>La máquina está grabando; ¡no disponible por ahora!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>Se perdió la conexión con la máquina: puede haberse quedado sin alimentación o seguir trabajando. Compruebe primero que está detenida y luego haga el homing o vuelva a fijar el origen.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

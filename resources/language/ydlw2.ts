@@ -1809,6 +1809,10 @@ Continuare?</translation>
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>La macchina sta incidendo; non disponibile al momento!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>La connessione con la macchina si è interrotta: potrebbe essere senza alimentazione o ancora in funzione. Verificate prima che sia ferma, poi eseguite l&apos;homing o reimpostate l&apos;origine.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

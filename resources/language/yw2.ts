@@ -1809,6 +1809,10 @@ Continue?</translation>
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>The machine is engraving; not available for now!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>The connection to the machine was lost: it may have lost power or may still be running. Make sure it has stopped, then home it or set the origin again.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1809,6 +1809,10 @@
         <source>设备雕刻中,暂时停止使用!</source>
         <translation>设备雕刻中,暂时停止使用!</translation>
     </message>
+    <message>
+        <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
+        <translation>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

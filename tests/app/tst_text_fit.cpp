@@ -21,9 +21,9 @@
 #include "layer_panel_controller.h"
 #include "machine_panel.h"
 #include "message_box.h"
-#include "offset_dialog.h"
 #include "moshiyulan.h"
 #include "move_dialog.h"
+#include "offset_dialog.h"
 #include "parameter_library_dialog.h"
 #include "photo_panel.h"
 #include "program_state.h"
@@ -212,7 +212,8 @@ private slots:
                                 "Su_Cai_Shang_Chuan",
                                 "GengXinXiaZai",
                                 "OffsetDialog",
-                                "ResumeDialog"};
+                                "ResumeDialog",
+                                "ResumeDialogLinkLost"};
         QStringList languages{QString()};
         languages << all_language_codes();
         for (const QString &language : languages)
@@ -291,6 +292,17 @@ private slots:
              [] {
                  return new ResumeDialog(QStringList{"G0X1Y1", "G1X20Y5S500F1000", "G1X1Y1"}, 2,
                                          true);
+             }},
+            {"ResumeDialogLinkLost",
+             [] {
+                 auto *d =
+                     new ResumeDialog(QStringList{"G0X1Y1", "G1X20Y5S500F1000", "G1X1Y1"}, 2, true);
+                 // The longest warning: a WiFi board out of reach.
+                 d->setWarning(QCoreApplication::translate(
+                     "ResumeOffer",
+                     "与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停"
+                     "止,再归位或重新设置原点。"));
+                 return d;
              }},
         };
         std::unique_ptr<QWidget> shown;

@@ -238,6 +238,10 @@ private slots:
         board.dropWebSockets();
         QTRY_VERIFY(w.findChild<ResumeDialog *>());
         QTRY_VERIFY(m_asked.messages().contains(QStringLiteral("WiFi连接意外断开!")));
+        // Out of reach, the board may have lost power or may burn on.
+        QVERIFY(child<QLabel>(w.findChild<ResumeDialog *>(), "warning_Lab")
+                    ->text()
+                    .contains(QStringLiteral("仍在运行")));
         QVERIFY(board.jobRunning()); // the card job goes on
 
         QVERIFY(connectWindow(w, board));
