@@ -80,17 +80,18 @@ bool writeResumedJob(const CommandLine &cl, const QTemporaryDir &dir, QString *f
     return true;
 }
 
-// --port ... --run: streams a file through the same serial link as the window.
-int runSender(const CommandLine &cl)
+// Runs cl.runFile through `run` (the serial or the WiFi sender), or with
+// --from-line the resumed job made from it; SIGINT/SIGTERM stop the run.
+template<typename Options, typename Run>
+int runMaybeResumed(const CommandLine &cl, Options options, Run run)
 {
     QTextStream out(stdout);
     QTextStream err(stderr);
-    HeadlessRunOptions options;
     options.onStoppable = [](const std::function<void()> &stop) {
         set_terminate_signal_handler(stop);
     };
     if (cl.fromLine <= 0)
-        return runJobHeadless(cl.port, cl.runFile, cl.home, out, err, options);
+        return run(cl.runFile, options, out, err);
     QTemporaryDir dir;
     QString file;
     gcode::ResumeJob resumed;
@@ -98,7 +99,17 @@ int runSender(const CommandLine &cl)
         return HeadlessBadFile;
     options.preambleLines = resumed.preambleLines;
     options.firstJobLine = resumed.fromLine;
-    return runJobHeadless(cl.port, file, cl.home, out, err, options);
+    return run(file, options, out, err);
+}
+
+// --port ... --run: streams a file through the same serial link as the window.
+int runSender(const CommandLine &cl)
+{
+    return runMaybeResumed(cl, HeadlessRunOptions(),
+                           [&](const QString &file, const HeadlessRunOptions &options,
+                               QTextStream &out, QTextStream &err) {
+                               return runJobHeadless(cl.port, file, cl.home, out, err, options);
+                           });
 }
 
 // --wifi ... --run: uploads and starts the file through the window's HttpThread.
@@ -106,22 +117,12 @@ int runWifiSender(const CommandLine &cl)
 {
     // The link's debug trace would bury the one line a failure leaves on stderr.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    QTextStream out(stdout);
-    QTextStream err(stderr);
-    HeadlessWifiOptions options;
-    options.onStoppable = [](const std::function<void()> &stop) {
-        set_terminate_signal_handler(stop);
-    };
-    if (cl.fromLine <= 0)
-        return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, cl.runFile, out, err, options);
-    QTemporaryDir dir;
-    QString file;
-    gcode::ResumeJob resumed;
-    if (!writeResumedJob(cl, dir, &file, &resumed, out, err))
-        return HeadlessBadFile;
-    options.preambleLines = resumed.preambleLines;
-    options.firstJobLine = resumed.fromLine;
-    return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, file, out, err, options);
+    return runMaybeResumed(cl, HeadlessWifiOptions(),
+                           [&](const QString &file, const HeadlessWifiOptions &options,
+                               QTextStream &out, QTextStream &err) {
+                               return runWifiJobHeadless(cl.wifiAddress, cl.wsPort, file, out, err,
+                                                         options);
+                           });
 }
 
 // --camera ... -o: the straightened photo of the work area, as the window

@@ -30,31 +30,9 @@ private:
 
 using burn_check::Burn;
 
-namespace {
-
-QList<Burn> machineBurns(const GrblFake &fake)
-{
-    QList<Burn> out;
-    for (const auto &m : fake.executedMoves())
-        if (m.burning && (m.from != m.to))
-            out.append({m.from, m.to, m.power, 0});
-    return out;
-}
-
-struct Run
-{
-    int exitCode = -1;
-    QString out;
-};
-
-} // namespace
-
 void TestResumeRun::initTestCase()
 {
-    m_seed = qEnvironmentVariableIsSet("LUMITRA_RESUME_SEED")
-                 ? quint32(qEnvironmentVariableIntValue("LUMITRA_RESUME_SEED"))
-                 : QRandomGenerator::system()->generate();
-    qInfo("seed %u (set LUMITRA_RESUME_SEED to repeat)", m_seed);
+    m_seed = burn_check::resumeSeed();
 }
 
 void TestResumeRun::interruptAndResume_data()
@@ -74,11 +52,7 @@ void TestResumeRun::interruptAndResume()
     QTemporaryDir dir;
     const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
     const QString file = dir.filePath("job.nc");
-    {
-        QFile f(file);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write((job.join('\n') + '\n').toLatin1());
-    }
+    QVERIFY(burn_check::writeJob(file, job));
     // Fake lines: "$i" first, then the job; interrupt somewhere inside it.
     const int at = 10 + int(random.bounded(job.size() - 30));
     qInfo("%s at received line %d of %d", qPrintable(kind), at, int(job.size()));
@@ -144,9 +118,9 @@ void TestResumeRun::interruptAndResume()
              qPrintable(out2 + QString::fromUtf8(resumed.readAllStandardError())));
     QVERIFY2(out2.endsWith("done\n"), qPrintable(out2));
 
-    QList<Burn> ran = machineBurns(first);
+    QList<Burn> ran = burn_check::machineBurns(first.executedMoves());
     if (kind == "port lost")
-        ran += machineBurns(second);
+        ran += burn_check::machineBurns(second.executedMoves());
     const QString wrong = burn_check::compare(job, ran, from, mayHaveRun);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }

@@ -32,10 +32,7 @@ using burn_check::Burn;
 
 void TestWifiResumeRun::initTestCase()
 {
-    m_seed = qEnvironmentVariableIsSet("LUMITRA_RESUME_SEED")
-                 ? quint32(qEnvironmentVariableIntValue("LUMITRA_RESUME_SEED"))
-                 : QRandomGenerator::system()->generate();
-    qInfo("seed %u (set LUMITRA_RESUME_SEED to repeat)", m_seed);
+    m_seed = burn_check::resumeSeed();
 }
 
 void TestWifiResumeRun::interruptAndResume_data()
@@ -55,11 +52,7 @@ void TestWifiResumeRun::interruptAndResume()
     QTemporaryDir dir;
     const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
     const QString file = dir.filePath("job.nc");
-    {
-        QFile f(file);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write((job.join('\n') + '\n').toLatin1());
-    }
+    QVERIFY(burn_check::writeJob(file, job));
     // The job makes about 260 blocks; stop somewhere inside it.
     const int at = 30 + int(random.bounded(200));
     qInfo("%s after block %d", qPrintable(kind), at);
@@ -128,11 +121,8 @@ void TestWifiResumeRun::interruptAndResume()
              qPrintable(out2));
     QVERIFY2(out2.endsWith("done\n"), qPrintable(out2));
 
-    QList<Burn> ran;
-    for (const auto &move : board.executedMoves())
-        if (move.burning)
-            ran.append({move.from, move.to, move.power, 0});
-    const QString wrong = burn_check::compare(job, ran, from, mayHaveRun);
+    const QString wrong =
+        burn_check::compare(job, burn_check::machineBurns(board.executedMoves()), from, mayHaveRun);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 

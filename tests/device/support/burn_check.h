@@ -4,8 +4,10 @@
 // no stray burn, no gap, and no more burnt twice than allowed.
 #include "job_simulator.h"
 
+#include <QFile>
 #include <QList>
 #include <QPointF>
+#include <QRandomGenerator>
 #include <QString>
 #include <QStringList>
 #include <algorithm>
@@ -50,6 +52,35 @@ template<typename Pick> QStringList makeJob(Pick &&pick)
         << "M5"
         << "G0 X0 Y0";
     return job;
+}
+
+// The seed of a resume test: LUMITRA_RESUME_SEED when set (to repeat a run),
+// else a fresh one; printed either way.
+inline quint32 resumeSeed()
+{
+    const quint32 seed = qEnvironmentVariableIsSet("LUMITRA_RESUME_SEED")
+                             ? quint32(qEnvironmentVariableIntValue("LUMITRA_RESUME_SEED"))
+                             : QRandomGenerator::system()->generate();
+    qInfo("seed %u (set LUMITRA_RESUME_SEED to repeat)", seed);
+    return seed;
+}
+
+// Writes `job` to `path`, one line each; false when it cannot.
+inline bool writeJob(const QString &path, const QStringList &job)
+{
+    QFile f(path);
+    const QByteArray bytes = (job.join('\n') + '\n').toLatin1();
+    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
+}
+
+// The burns among moves a machine ran (anything with from, to, burning, power).
+template<typename Moves> QList<Burn> machineBurns(const Moves &moves)
+{
+    QList<Burn> out;
+    for (const auto &m : moves)
+        if (m.burning && m.from != m.to)
+            out.append({m.from, m.to, m.power, 0});
+    return out;
 }
 
 inline QList<Burn> jobBurns(const QStringList &job)
