@@ -132,7 +132,8 @@ void TestSerialLink::twoOksInOneRead()
     QSignalSpy lines(&com, &Jk_com::lineReceived);
     fake.sendRaw("ok\r\nok\r\n");
     QTRY_COMPARE(com.stream().inFlight(), 0);
-    QCOMPARE(lines.count(), 2);
+    // The lines reach this thread by queued signal, maybe after the counts.
+    QTRY_COMPARE(lines.count(), 2);
     QCOMPARE(lines.at(0).first().toString(), QString("ok\r"));
     QCOMPARE(lines.at(1).first().toString(), QString("ok\r"));
 }
