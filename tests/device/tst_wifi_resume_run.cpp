@@ -106,10 +106,11 @@ void TestWifiResumeRun::interruptAndResume()
           "report)",
           from, mayHaveRun, first.lastRunLine(), board.lastReportedRunLine());
     QVERIFY(from >= 1 && from <= first.firstQueuedLine());
-    // The head's position in the last report places the resume line on the
-    // move running then (or an earlier move through the same point, at most
-    // one square of the job back).
-    QVERIFY2(from > board.lastReportedRunLine() - 10, qPrintable(QString::number(from)));
+    // The head's position in the last report the sender read places the resume
+    // line on the move running then (or an earlier move through the same
+    // point). The board may have sent a report or two more (5 blocks apart)
+    // that the sender never read: a stop or a power cut comes in between.
+    QVERIFY2(from > board.lastReportedRunLine() - 30, qPrintable(QString::number(from)));
 
     QProcess resumed;
     QVERIFY(start(resumed, {"--from-line", QString::number(from)}));
