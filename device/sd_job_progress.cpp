@@ -54,10 +54,21 @@ bool SdJobProgress::index(const QString &path, double stepXmm, double stepYmm, Q
     return true;
 }
 
+void SdJobProgress::workOffsetReport(const QString &report)
+{
+    static const QRegularExpression offset(QStringLiteral("WCO:(-?[\\d.]+),(-?[\\d.]+)"));
+    const auto m = offset.match(report);
+    if (!m.hasMatch())
+        return;
+    m_hasOffset = true;
+    m_offset = QPointF(m.captured(1).toDouble(), m.captured(2).toDouble());
+}
+
 bool SdJobProgress::statusReport(const QString &report)
 {
     if (!report.startsWith(QLatin1Char('<')))
         return false;
+    workOffsetReport(report);
     const QString state = report.mid(1).section(QRegularExpression(QStringLiteral("[|:>]")), 0, 0);
     if (state != QLatin1String("Run") && state != QLatin1String("Hold")
         && state != QLatin1String("Idle"))
@@ -69,8 +80,7 @@ bool SdJobProgress::statusReport(const QString &report)
     // Percent, free blocks and position of one report belong together.
     m_percent = m.captured(1).toDouble();
     m_blocksFree = lumitra::grbl::blocksFree(report);
-    static const QRegularExpression field(
-        QStringLiteral("(WPos|MPos|WCO):(-?[\\d.]+),(-?[\\d.]+)"));
+    static const QRegularExpression field(QStringLiteral("(WPos|MPos):(-?[\\d.]+),(-?[\\d.]+)"));
     bool work = false, machine = false;
     QPointF wpos, mpos;
     for (auto it = field.globalMatch(report); it.hasNext();) {
@@ -79,12 +89,9 @@ bool SdJobProgress::statusReport(const QString &report)
         if (f.captured(1) == QLatin1String("WPos")) {
             work = true;
             wpos = p;
-        } else if (f.captured(1) == QLatin1String("MPos")) {
+        } else {
             machine = true;
             mpos = p;
-        } else {
-            m_hasOffset = true;
-            m_offset = p;
         }
     }
     m_hasPosition = work || (machine && m_hasOffset);

@@ -58,6 +58,9 @@ public:
     // Reports that are not a running machine's, or carry no "SD:" field, are
     // ignored; true when the report was taken.
     bool statusReport(const QString &report);
+    // Takes only the work coordinate offset ("WCO:") of any report, running or
+    // not: GRBL sends it now and then, not in every report.
+    void workOffsetReport(const QString &report);
     // Forgets the reports (a new run of the same file).
     void clearReports();
     bool hasReport() const { return m_percent >= 0.0; }

@@ -46,6 +46,7 @@ void SdJobWatch::jobStarted(const QString &localPath)
     m_sawRun = false;
     m_lastReport.clear();
     m_progress = SdJobProgress();
+    m_progress.workOffsetReport(m_offsetReport);
     m_path = localPath;
     if (m_thread)
         m_thread->wait(); // an earlier job's index, no longer wanted
@@ -72,6 +73,7 @@ void SdJobWatch::applyIndex()
         return;
     m_progress = *m_indexing;
     m_indexing.reset();
+    m_progress.workOffsetReport(m_offsetReport);
     if (!m_lastReport.isEmpty())
         m_progress.statusReport(m_lastReport);
 }
@@ -94,8 +96,11 @@ void SdJobWatch::stopped()
 
 void SdJobWatch::onLine(const QString &line)
 {
-    if (line.startsWith(QLatin1Char('<')))
+    if (line.startsWith(QLatin1Char('<'))) {
         m_anyReport = line;
+        if (line.contains(QLatin1String("WCO:")))
+            m_offsetReport = line;
+    }
     if (!m_active)
         return;
     if (line.startsWith(QLatin1String("ALARM:"))) {

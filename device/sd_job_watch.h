@@ -65,8 +65,9 @@ private:
     SdJobProgress m_progress;
     std::shared_ptr<SdJobProgress> m_indexing; // the worker's result
     QThread *m_thread = nullptr;
-    QString m_lastReport; // last report a running machine sent
-    QString m_anyReport;  // last report of any kind
+    QString m_lastReport;   // last report a running machine sent
+    QString m_anyReport;    // last report of any kind
+    QString m_offsetReport; // last report with the work offset (WCO)
     QString m_path;
     double m_stepX = 0.0, m_stepY = 0.0;
     bool m_active = false;

@@ -156,6 +156,11 @@ void TestSdJobProgress::positionNarrowsTheResumeLine()
                    "001.nc>");
     p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
     QCOMPARE(p.resumeLine(), 192);
+    // The offset from a report of the idle machine before the job.
+    p.clearReports();
+    p.workOffsetReport("<Idle|MPos:0.000,0.000,0.000|WCO:10.000,10.000,0.000>");
+    p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 192);
     // Machine position and no offset known: the buffer's answer.
     p.clearReports();
     p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
