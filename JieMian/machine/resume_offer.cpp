@@ -56,24 +56,25 @@ void ResumeOffer::onWifiJobStarted(const QString &path)
         return;
     m_wifiJob = watch;
     connect(watch, &SdJobWatch::finished, this, &ResumeOffer::onFinished, Qt::UniqueConnection);
-    connect(
-        watch, &SdJobWatch::interrupted, this,
-        [this](bool positionLost) {
-            if (!m_jobActive || !m_wifiJob)
-                return;
-            m_jobActive = false;
-            // A board out of reach may have lost power, or may burn on.
-            const QString warning =
-                m_wifiJob->ending() == SdJobWatch::Ending::LinkLost
-                    ? tr("与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,"
-                         "再归位或重新设置原点。")
-                    : QString();
-            // The first line not surely run, less one, is the last one run.
-            offer(originalLine(m_wifiJob->resumeLine() - 1) + 1, positionLost, warning);
-        },
-        Qt::UniqueConnection);
+    connect(watch, &SdJobWatch::interrupted, this, &ResumeOffer::onWifiInterrupted,
+            Qt::UniqueConnection);
     m_jobActive = false;
     jobStarted(path);
+}
+
+void ResumeOffer::onWifiInterrupted(bool positionLost)
+{
+    if (!m_jobActive || !m_wifiJob)
+        return;
+    m_jobActive = false;
+    // A board out of reach may have lost power, or may burn on.
+    const QString warning =
+        m_wifiJob->ending() == SdJobWatch::Ending::LinkLost
+            ? tr("与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,"
+                 "再归位或重新设置原点。")
+            : QString();
+    // The first line not surely run, less one, is the last one run.
+    offer(originalLine(m_wifiJob->resumeLine() - 1) + 1, positionLost, warning);
 }
 
 void ResumeOffer::onProgress(int percent)

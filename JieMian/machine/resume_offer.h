@@ -60,6 +60,7 @@ private:
     void onProgress(int percent);
     void onFinished();
     void onWifiJobStarted(const QString &path);
+    void onWifiInterrupted(bool positionLost);
     void onStop();
     // A run of `path` started: a new job unless it is the resumed one.
     void jobStarted(const QString &path);
