@@ -135,7 +135,7 @@ int runCameraPhoto(const CommandLine &cl)
     return takeCameraPhotoHeadless(cl.cameraAddress, cl.output, err);
 }
 
-// --estimate FILE [--settings DUMP]: the job's running time as the
+// --estimate FILE [--settings DUMP] [--baud N]: the job's running time as the
 // controller plans it, in seconds, on one line.
 int runEstimate(const CommandLine &cl)
 {
@@ -150,6 +150,7 @@ int runEstimate(const CommandLine &cl)
         machine = GrblMachineSettings::fromMap(
             parseGrblSettingsDump(QString::fromLatin1(dump.readAll())));
     }
+    machine.linkBytesPerSecond = cl.estimateBaud / 10.0; // 8N1: ten bits a byte
     QFile job(cl.estimateFile);
     double seconds = 0.0;
     if (!job.open(QIODevice::ReadOnly) || !GrblTimeEstimator::estimate(job, machine, &seconds)) {

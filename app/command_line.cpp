@@ -26,7 +26,7 @@ CommandLine parse_command_line(const QStringList &arguments)
                        "                             run a G-code file on a WiFi controller\n"
                        "  --camera HOST[:PORT] -o PHOTO.png\n"
                        "                             save the straightened camera photo\n"
-                       "  --estimate FILE [--settings DUMP]\n"
+                       "  --estimate FILE [--settings DUMP] [--baud N]\n"
                        "                             print how many seconds a G-code file runs\n"
                        "  --check-update             ask the cloud service for a newer version"));
     const QCommandLineOption help = parser.addHelpOption();
@@ -66,6 +66,12 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("Text file with the controller's $$ reply ($110=... lines) used by "
                        "--estimate; the controller's defaults otherwise."),
         QStringLiteral("DUMP"));
+    const QCommandLineOption baudOpt(
+        QStringLiteral("baud"),
+        QStringLiteral("Time the --estimate job as streamed over a serial link at N baud (N/10 "
+                       "bytes a second); without it the link keeps up, as for a job run from "
+                       "the controller's card."),
+        QStringLiteral("N"));
     const QCommandLineOption homeOpt(QStringLiteral("home"),
                                      QStringLiteral("Home the machine before the job."));
     const QCommandLineOption fromLineOpt(
@@ -103,6 +109,7 @@ CommandLine parse_command_line(const QStringList &arguments)
     parser.addOption(cameraOpt);
     parser.addOption(estimateOpt);
     parser.addOption(settingsOpt);
+    parser.addOption(baudOpt);
     parser.addOption(fromLineOpt);
     parser.addOption(checkUpdateOpt);
     parser.addPositionalArgument(QStringLiteral("files"),
@@ -145,17 +152,26 @@ CommandLine parse_command_line(const QStringList &arguments)
     if (parser.isSet(estimateOpt)) {
         if (exporting || running || parser.isSet(cameraOpt) || parser.isSet(homeOpt)
             || parser.isSet(wsPortOpt) || parser.isSet(outputOpt))
-            return usage(QStringLiteral("--estimate is used alone, with an optional --settings"));
+            return usage(
+                QStringLiteral("--estimate is used alone, with an optional --settings and --baud"));
         for (const QString &name : process_option_names())
             if (parser.isSet(name))
                 return usage(QStringLiteral("--%1 is only used with --export").arg(name));
         result.mode = CommandLine::Estimate;
         result.estimateFile = parser.value(estimateOpt);
         result.settingsFile = parser.value(settingsOpt);
+        if (parser.isSet(baudOpt)) {
+            bool ok = false;
+            result.estimateBaud = parser.value(baudOpt).toInt(&ok);
+            if (!ok || result.estimateBaud < 300)
+                return usage(QStringLiteral("--baud needs a serial rate (300 or more)"));
+        }
         return result;
     }
     if (parser.isSet(settingsOpt))
         return usage(QStringLiteral("--settings is only used with --estimate"));
+    if (parser.isSet(baudOpt))
+        return usage(QStringLiteral("--baud is only used with --estimate"));
     if (parser.isSet(fromLineOpt)) {
         if (!parser.isSet(runOpt) || (!parser.isSet(portOpt) && !parser.isSet(wifiOpt)))
             return usage(QStringLiteral(

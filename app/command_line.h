@@ -36,10 +36,12 @@ struct CommandLine
     // photo is written to `output`.
     QString cameraAddress;
 
-    // --estimate FILE [--settings DUMP]: the G-code file to time, and a text
-    // file holding the controller's "$$" reply (its defaults when empty).
+    // --estimate FILE [--settings DUMP] [--baud N]: the G-code file to time,
+    // a text file holding the controller's "$$" reply (its defaults when
+    // empty), and the serial rate it streams at (0: the link keeps up).
     QString estimateFile;
     QString settingsFile;
+    int estimateBaud = 0;
 
     // --check-update: asks the cloud service once and prints its answer (no
     // other field is used).

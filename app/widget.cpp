@@ -221,7 +221,8 @@ void Widget::previewJob()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // Timed with the controller's own motion planning once its settings are known.
     const QMap<QString, QString> reported = m_machine->machineSettings();
-    const GrblMachineSettings machine = GrblMachineSettings::fromDeviceInfo(reported);
+    const GrblMachineSettings machine =
+        m_machine->jobTimingSettings(s.connectionMode == lumitra::WifiLink);
     dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0,
                                         reported.isEmpty() ? nullptr : &machine));
     dialog->setTravelSaved(lumitra::cutOrderTravelSaved(items, LayerList::instance()));

@@ -14,6 +14,10 @@ struct GrblMachineSettings
     double junctionDeviation = 0.010;            // $11
     double arcTolerance = 0.002;                 // $12
     bool laserMode = false;                      // $32
+    // How fast the job's bytes reach the controller (bytes/s); 0 when the
+    // link never holds the job back (a job run from the board's card). Not a
+    // controller setting: the caller sets it for the link the job goes over.
+    double linkBytesPerSecond = 0.0;
 
     // Takes the values found in `values` (setting number -> value text);
     // missing, unreadable or non-positive values keep their defaults.

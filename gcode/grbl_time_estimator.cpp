@@ -149,27 +149,55 @@ void GrblTimeEstimator::addLine(const double target[3], bool rapid)
         m_prevUnit[i] = unit[i];
     m_prevNominal = b.nominal;
 
-    if (int(m_queue.size()) >= kBufferBlocks - 1)
+    if (int(m_queue.size()) >= kBufferBlocks - 1) {
         executeFront(); // the buffer is full: wait for the running block
+        m_now = std::max(m_now, m_seconds);
+    }
+    b.parsed = m_now;
     m_queue.push_back(b);
     ++m_blocks;
 }
 
-// Runs the front block with what the buffer knows now: every later block must
-// still be able to stop at the end of the buffer.
+// The fastest the front block may leave at when the buffer knows its first
+// `known` blocks: every later one must still be able to stop at the end of
+// what is known.
+double GrblTimeEstimator::exitSqWithin(size_t known) const
+{
+    double nextEntrySq = 0.0;
+    for (size_t k = known; k-- > 1;) {
+        const Block &b = m_queue[k];
+        nextEntrySq = std::min(b.maxEntrySq, nextEntrySq + 2.0 * b.accel * b.length);
+    }
+    const Block &front = m_queue.front();
+    return std::min(nextEntrySq, m_entrySq + 2.0 * front.accel * front.length);
+}
+
+// Runs the front block with what the buffer knows while it runs. Blocks still
+// on their way down the link are unknown: the plan stops before them.
 void GrblTimeEstimator::executeFront()
 {
     if (m_queue.empty())
         return;
-    double nextEntrySq = 0.0;
-    for (int k = int(m_queue.size()) - 1; k >= 1; --k) {
-        const Block &b = m_queue[size_t(k)];
-        nextEntrySq = std::min(b.maxEntrySq, nextEntrySq + 2.0 * b.accel * b.length);
-    }
     const Block &front = m_queue.front();
-    const double exitSq = std::min(nextEntrySq, m_entrySq + 2.0 * front.accel * front.length);
-    m_seconds += trapezoid_seconds(front.length, std::sqrt(m_entrySq), std::sqrt(exitSq),
-                                   front.nominal, front.accel);
+    const double start = std::max(m_seconds, front.parsed);
+    if (front.parsed > m_seconds)
+        m_entrySq = 0.0; // the machine stood waiting for it
+    double exitSq = exitSqWithin(m_queue.size());
+    if (m_settings.linkBytesPerSecond > 0.0) {
+        // A block that comes while the front one runs still raises its exit
+        // speed; blocks are short against that, so "before it would end" it is.
+        const double until = start
+                             + trapezoid_seconds(front.length, std::sqrt(m_entrySq),
+                                                 std::sqrt(exitSq), front.nominal, front.accel);
+        size_t known = 1;
+        while (known < m_queue.size() && m_queue[known].parsed <= until)
+            ++known;
+        if (known < m_queue.size())
+            exitSq = exitSqWithin(known);
+    }
+    m_seconds = start
+                + trapezoid_seconds(front.length, std::sqrt(m_entrySq), std::sqrt(exitSq),
+                                    front.nominal, front.accel);
     m_entrySq = exitSq;
     if (front.line >= 0 && size_t(front.line) < m_lineEnd.size())
         m_lineEnd[size_t(front.line)] = m_seconds;
@@ -181,6 +209,24 @@ void GrblTimeEstimator::synchronize()
     while (!m_queue.empty())
         executeFront();
     m_entrySq = 0.0;
+    m_now = std::max(m_now, m_seconds);
+}
+
+// When the controller has the whole of a line of `bytes` (its end included)
+// and has answered the lines before it.
+double GrblTimeEstimator::receive(int bytes)
+{
+    const double rate = m_settings.linkBytesPerSecond;
+    if (rate <= 0.0)
+        return m_lastAnswered;
+    m_sent += bytes;
+    // The line may go once the lines before it that would overfill the
+    // receive buffer have been answered.
+    while (!m_answers.empty() && m_answers.front().first < m_sent - kReceiveBuffer)
+        m_answers.pop_front();
+    const double room = m_answers.empty() ? m_lastAnswered : m_answers.front().second;
+    m_wireFree = std::max(m_wireFree, room) + bytes / rate;
+    return std::max(m_wireFree, m_lastAnswered);
 }
 
 void GrblTimeEstimator::addArc(const double target[3], const double offset[3], bool clockwise)
@@ -219,6 +265,20 @@ void GrblTimeEstimator::addArc(const double target[3], const double offset[3], b
 void GrblTimeEstimator::feedLine(const QString &line)
 {
     m_lineEnd.push_back(-1.0);
+    m_now = receive(line.size() + 1);
+    const int blocksBefore = m_blocks;
+    parseLine(line);
+    // The controller answers once the line is planned (or waited for); a line
+    // that plans no move has run by then.
+    m_lastAnswered = m_now;
+    if (m_blocks == blocksBefore)
+        m_lineEnd.back() = std::max(m_lineEnd.back(), m_now);
+    if (m_settings.linkBytesPerSecond > 0.0)
+        m_answers.emplace_back(m_sent, m_now);
+}
+
+void GrblTimeEstimator::parseLine(const QString &line)
+{
     if (line.trimmed().startsWith(QLatin1Char('$')))
         return; // system commands do not move in a job
     QVector<Word> words;
@@ -370,7 +430,8 @@ void GrblTimeEstimator::feedLine(const QString &line)
     }
     if (dwell) {
         synchronize();
-        m_seconds += std::max(0.0, pause);
+        m_seconds = m_now + std::max(0.0, pause);
+        m_now = m_seconds;
         m_lineEnd.back() = m_seconds;
     }
     m_absolute = absolute;
@@ -429,7 +490,7 @@ void GrblTimeEstimator::feedLine(const QString &line)
 double GrblTimeEstimator::seconds()
 {
     synchronize();
-    return m_seconds;
+    return std::max(m_seconds, m_lastAnswered);
 }
 
 QVector<double> GrblTimeEstimator::lineEndSeconds()

@@ -17,7 +17,11 @@ class QIODevice;
 // Rapids run at the maximum rates, limited per axis; everything that makes the
 // controller wait for its buffer to empty (dwell, spindle and coolant
 // changes, the program end, and power changes outside laser mode) brings the
-// machine to a stop. Plain class, any thread. Units: mm, mm/min, seconds.
+// machine to a stop. When the settings name a link rate, the controller can
+// only plan a line once its bytes have come down the link, and the sender
+// keeps at most kReceiveBuffer bytes unanswered: a job that needs more than
+// the link carries starves the buffer, which then plans to stop at its end.
+// Plain class, any thread. Units: mm, mm/min, seconds.
 class GrblTimeEstimator
 {
 public:
@@ -42,6 +46,8 @@ public:
     static bool estimate(QIODevice &job, const GrblMachineSettings &settings, double *seconds);
 
     static constexpr int kBufferBlocks = 16;
+    // The controller's receive buffer the sender fills by counting characters.
+    static constexpr int kReceiveBuffer = 127;
 
 private:
     struct Block
@@ -51,8 +57,12 @@ private:
         double nominal = 0.0;    // mm/s
         double maxEntrySq = 0.0; // (mm/s)²
         int line = 0;            // the line it came from
+        double parsed = 0.0;     // when the controller planned it (s)
     };
 
+    void parseLine(const QString &line);
+    double receive(int bytes);
+    double exitSqWithin(size_t known) const;
     void addLine(const double target[3], bool rapid);
     void addArc(const double target[3], const double offset[3], bool clockwise);
     void synchronize();
@@ -66,6 +76,15 @@ private:
     double m_seconds = 0.0;
     int m_blocks = 0;
     std::vector<double> m_lineEnd; // per line fed; negative until it has run
+
+    // The link (only with a link rate).
+    double m_now = 0.0;          // when the controller has the line it parses
+    double m_lastAnswered = 0.0; // when the line before it was answered
+    double m_wireFree = 0.0;     // when the link has sent everything so far
+    double m_sent = 0.0;         // bytes sent so far
+    // (bytes sent through a line, when it was answered) for the lines that
+    // may still hold the receive buffer; starts with the empty start.
+    std::deque<std::pair<double, double>> m_answers{{0.0, 0.0}};
 
     // Parser state.
     double m_pos[3] = {0.0, 0.0, 0.0};

@@ -82,8 +82,7 @@ void JobTimeDisplay::begin(const QString &path)
     m_tick.start();
     // Planned on a thread of its own: a long job takes a while.
     const quint64 run = ++m_run;
-    const GrblMachineSettings settings =
-        GrblMachineSettings::fromDeviceInfo(m_machine->machineSettings());
+    const GrblMachineSettings settings = m_machine->jobTimingSettings(m_wifiJob != nullptr);
     auto result = std::make_shared<PlannedJobTime>();
     auto ok = std::make_shared<bool>(false);
     QThread *thread =

@@ -8,6 +8,7 @@
 #include "message_box.h"
 #include "port_choice.h"
 #include "program_state.h"
+#include "raster_words.h"
 #include "settings_store.h"
 #include "ui_machine_panel.h"
 
@@ -308,6 +309,13 @@ QMap<QString, QString> MachineController::machineSettings() const
         if (eq > 1)
             settings.insert(entry.left(eq), entry.mid(eq + 1));
     }
+    return settings;
+}
+
+GrblMachineSettings MachineController::jobTimingSettings(bool fromCard) const
+{
+    GrblMachineSettings settings = GrblMachineSettings::fromDeviceInfo(machineSettings());
+    settings.linkBytesPerSecond = fromCard ? 0.0 : lumitra::kSerialBytesPerSecond;
     return settings;
 }
 

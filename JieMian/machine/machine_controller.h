@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grbl_machine_settings.h"
 #include "job_origin.h"
 #include "status_reaction.h"
 #include "work_area.h"
@@ -80,6 +81,10 @@ public:
     // them, in this run or an earlier one (kept in the settings file); empty
     // when no controller ever reported them.
     QMap<QString, QString> machineSettings() const;
+    // What the job-time estimate plans with: those settings, and the serial
+    // link's rate unless `fromCard` (a WiFi job runs from the board's card,
+    // which keeps up with the machine).
+    GrblMachineSettings jobTimingSettings(bool fromCard) const;
     bool travelKnown() const { return m_travelKnown; }
 
 public slots:

@@ -42,23 +42,29 @@ private slots:
     void estimates_data()
     {
         QTest::addColumn<QByteArray>("dump");
+        QTest::addColumn<QString>("baud");
         QTest::addColumn<QByteArray>("expected");
+        const QByteArray dump("$0=10\r\n$110=6000.000\r\n$111=6000.000\r\n$120=100.000\r\n"
+                              "$121=100.000\r\n$32=1\r\nok\r\n");
         // The factory 500 mm/min and 10 mm/s²: 8.33 mm/s reached after 3.47 mm.
-        QTest::newRow("factory settings") << QByteArray() << QByteArray("12.833\n");
+        QTest::newRow("factory settings") << QByteArray() << QString() << QByteArray("12.833\n");
         // 6000 mm/min, 100 mm/s²: 0.5 s up, 75 mm at 50 mm/s, 0.5 s down.
-        QTest::newRow("settings dump")
-            << QByteArray("$0=10\r\n$110=6000.000\r\n$111=6000.000\r\n$120=100.000\r\n"
-                          "$121=100.000\r\n$32=1\r\nok\r\n")
-            << QByteArray("2.500\n");
+        QTest::newRow("settings dump") << dump << QString() << QByteArray("2.500\n");
+        // At 300 baud (30 bytes a second) the move's line is in after
+        // 19 bytes: 0.633 s before the move starts.
+        QTest::newRow("slow serial link") << dump << QStringLiteral("300") << QByteArray("3.133\n");
     }
     void estimates()
     {
         QFETCH(QByteArray, dump);
+        QFETCH(QString, baud);
         QFETCH(QByteArray, expected);
         const QString job = write(QStringLiteral("job.nc"), "M4\nG1X100S500F3000\nM5\n");
         QStringList args{QStringLiteral("--estimate"), job};
         if (!dump.isEmpty())
             args << QStringLiteral("--settings") << write(QStringLiteral("dump.txt"), dump);
+        if (!baud.isEmpty())
+            args << QStringLiteral("--baud") << baud;
         QByteArray out, err;
         QCOMPARE(run(args, &out, &err), 0);
         QCOMPARE(out, expected);
@@ -91,6 +97,11 @@ private slots:
         QCOMPARE(run({QStringLiteral("--settings"), QStringLiteral("dump.txt")}, &out, &err), 2);
         QCOMPARE(run({QStringLiteral("--estimate"), QStringLiteral("a.nc"), QStringLiteral("-o"),
                       QStringLiteral("b.nc")},
+                     &out, &err),
+                 2);
+        QCOMPARE(run({QStringLiteral("--baud"), QStringLiteral("115200")}, &out, &err), 2);
+        QCOMPARE(run({QStringLiteral("--estimate"), QStringLiteral("a.nc"),
+                      QStringLiteral("--baud"), QStringLiteral("fast")},
                      &out, &err),
                  2);
     }

@@ -438,6 +438,92 @@ private slots:
         QVERIFY(!info.laserMode);
     }
 
+    // Over a slow link a line is planned only once its bytes are in: the
+    // first move waits for its line, and a move whose successor is still on
+    // the wire when it would end brakes to a stop at its end.
+    void linkArrivals_data()
+    {
+        QTest::addColumn<QStringList>("job");
+        QTest::addColumn<double>("bytesPerSecond");
+        QTest::addColumn<double>("expected");
+        const double move10 = trapezoidTime(10.0, 10.0, 100.0); // 1.1 s
+        const double move20 = trapezoidTime(20.0, 10.0, 100.0); // 2.1 s
+        const QStringList two{QStringLiteral("G1X10F600"), QStringLiteral("X20")};
+        // 10 bytes (its end included) at 10 B/s.
+        QTest::newRow("first line")
+            << QStringList{QStringLiteral("G1X10F600")} << 10.0 << 1.0 + move10;
+        // "X20" is in at 1.4 s, long before the first move would end: one
+        // trapezoid over both.
+        QTest::newRow("next in time") << two << 10.0 << 1.0 + move20;
+        // At 2 B/s "X20" is in at 7 s; the first move (5 s .. 6.1 s) had to
+        // stop, and the second starts from rest.
+        QTest::newRow("next too late") << two << 2.0 << 7.0 + move10;
+        // A dwell waits for its own line too.
+        QTest::newRow("dwell") << QStringList{QStringLiteral("G4P0.5")} << 7.0 << 1.0 + 0.5;
+    }
+
+    void linkArrivals()
+    {
+        QFETCH(QStringList, job);
+        QFETCH(double, bytesPerSecond);
+        QFETCH(double, expected);
+        GrblMachineSettings s = machine(100.0);
+        s.linkBytesPerSecond = bytesPerSecond;
+        const double t = estimate(job, s);
+        QVERIFY2(std::fabs(t - expected) < 1e-9, qPrintable(QString::number(t, 'g', 12)));
+    }
+
+    // A 0.1 mm raster of burns and gaps at 6000 mm/min. Unlimited, the
+    // planner holds it back; over a link slower than it needs, the time is
+    // the link's (the sender keeps the receive buffer full); and a slower
+    // link is never faster. A link far faster than the job needs changes
+    // nothing but the first line's wait.
+    void rasterOverTheLink()
+    {
+        QStringList job{QStringLiteral("M4"), QStringLiteral("G91"), QStringLiteral("G1F6000S0")};
+        for (int i = 0; i < 3000; ++i)
+            job << (i % 2 ? QStringLiteral("X.1S0") : QStringLiteral("X.1S500"));
+        job << QStringLiteral("M5");
+        double bytes = 0;
+        for (const QString &line : job)
+            bytes += line.size() + 1;
+
+        GrblMachineSettings s = machine(1000.0, 6000.0, true);
+        const double unlimited = estimate(job, s);
+        const double planned = unlimited; // about 3 kB/s of this job
+        QVERIFY(bytes / planned > 2500.0);
+
+        double previous = 0.0;
+        for (double rate : {8000.0, 2000.0, 1000.0, 500.0}) {
+            s.linkBytesPerSecond = rate;
+            const double t = estimate(job, s);
+            QVERIFY2(t >= previous, qPrintable(QStringLiteral("%1 B/s faster").arg(rate)));
+            QVERIFY2(t >= unlimited, qPrintable(QStringLiteral("%1 B/s").arg(rate)));
+            // Never faster than the bytes can come.
+            QVERIFY(t >= (bytes - GrblTimeEstimator::kReceiveBuffer) / rate);
+            if (rate < bytes / planned) // the link is the limit, not the planner
+                QVERIFY2(t < 1.05 * bytes / rate, qPrintable(QString::number(t * rate / bytes)));
+            previous = t;
+        }
+        s.linkBytesPerSecond = 1e6;
+        QVERIFY(std::fabs(estimate(job, s) - unlimited) < 1e-3);
+    }
+
+    // Long moves need few bytes: a serial link's rate changes the time of a
+    // vector job only by the first line's wait.
+    void vectorJobOverSerial()
+    {
+        QStringList job{QStringLiteral("G0X0Y0"), QStringLiteral("G1F3000")};
+        for (int i = 0; i < 200; ++i)
+            job << QStringLiteral("X%1Y%2").arg(i % 2 ? 0 : 50).arg(i * 0.5);
+        GrblMachineSettings s = machine(500.0);
+        const double unlimited = estimate(job, s);
+        s.linkBytesPerSecond = 11520.0;
+        const double serial = estimate(job, s);
+        QVERIFY(serial >= unlimited);
+        QVERIFY2(serial - unlimited < 0.01, qPrintable(QString::number(serial - unlimited)));
+    }
+
     void wholeDevice()
     {
         QByteArray text("G1X100F3000\nG4P2\n");
