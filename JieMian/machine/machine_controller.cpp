@@ -36,7 +36,10 @@ MachineController::MachineController(MachinePanel *panel, QWidget *dialogParent,
     m_indicatorTimer.setInterval(kIndicatorTickMs);
     connect(&m_indicatorTimer, &QTimer::timeout, this, &MachineController::updateRunTime);
     m_wifiPoll.setInterval(1000);
-    connect(&m_wifiPoll, &QTimer::timeout, this, [this] { sendWifi(QStringLiteral("?")); });
+    connect(&m_wifiPoll, &QTimer::timeout, this, [this] {
+        if (!m_wifiStatusPolled || !m_wifiStatusPolled())
+            sendWifi(QStringLiteral("?"));
+    });
     m_afterConnectTimer.setSingleShot(true);
     m_afterConnectTimer.setInterval(kSettingsAfterConnectMs);
     connect(&m_afterConnectTimer, &QTimer::timeout, this, [this] {

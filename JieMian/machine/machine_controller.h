@@ -70,6 +70,12 @@ public:
     void setWifiAddress(const QString &address) { m_wifiAddress = address; }
     // The WiFi link's busy flag, kept by the WiFi status handler.
     void setWifiBusy(bool busy);
+    // While `polled` answers true, something else (a card job's watch)
+    // already asks the WiFi board for its status; the busy poll keeps quiet.
+    void setWifiStatusPolled(std::function<bool()> polled)
+    {
+        m_wifiStatusPolled = std::move(polled);
+    }
 
     // Serial busy flag (Run/Hold seen, no Idle since) or WiFi busy flag.
     bool busy() const { return m_status.busy || m_wifiBusy; }
@@ -202,4 +208,5 @@ private:
     QString m_wifiAddress;
     std::function<QRectF()> m_frameSource;
     std::function<QString()> m_fileChooser;
+    std::function<bool()> m_wifiStatusPolled;
 };

@@ -86,6 +86,7 @@ void WifiLinkController::connectTo(const QString &host, int httpPort)
         connect(m_link, &HttpThread::send_Yun_Xing_Zhi, m_machine,
                 &MachineController::onWifiProgress);
         m_jobWatch = new SdJobWatch(m_link, this);
+        m_machine->setWifiStatusPolled([this] { return m_jobWatch && m_jobWatch->active(); });
         // The last report of a finished job may say 99.9 %.
         connect(m_jobWatch, &SdJobWatch::finished, m_machine,
                 [this] { m_machine->onWifiProgress(100.0f); });

@@ -131,7 +131,7 @@ private slots:
         FakeBoard::Options o;
         o.linesPerFrame = 3;
         o.splitFrames = true;
-        o.jobMs = 400;
+        o.jobMs = 4500;
         FakeBoard board(o);
         QVERIFY(board.start());
         Widget w;
@@ -148,6 +148,12 @@ private slots:
         QCOMPARE(board.cardFile(QStringLiteral("001.nc")), job.readAll());
         QTRY_VERIFY(board.commands().contains(QStringLiteral("[ESP220]/001.nc")));
         QTRY_VERIFY(w.machineController()->busy()); // Run came over the WebSocket
+        // The board is asked for its status once a second while it runs, by
+        // the job's watch alone (a timer that falls behind skips, never doubles).
+        const int asked = board.commands().count(QStringLiteral("?"));
+        QTest::qWait(3000);
+        const int polls = board.commands().count(QStringLiteral("?")) - asked;
+        QVERIFY2(polls >= 1 && polls <= 4, qPrintable(QString::number(polls)));
         QTRY_VERIFY_WITH_TIMEOUT(!w.machineController()->busy(), 5000); // then Idle
         QVERIFY(busy.size() >= 2);
     }
