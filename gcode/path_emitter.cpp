@@ -172,7 +172,7 @@ void PathEmitter::setShift(const QPointF &machineShift)
     m_shiftY = -machineShift.y();
 }
 
-void PathEmitter::writeLine(char motion, double x, double y, const NumberText *power)
+void PathEmitter::writeLine(char motion, double x, double y, const NumberText *power, bool atFeed)
 {
     if (m_shifted) {
         x += m_shiftX;
@@ -221,7 +221,7 @@ void PathEmitter::writeLine(char motion, double x, double y, const NumberText *p
             p = writeWord(p, 'F', feed);
         m_fullLength += size_t(2 + power->length() + feed.length());
     }
-    if (motion == '1')
+    if (atFeed)
         m_feedLength += std::hypot(x - m_lastX, y - m_lastY);
     m_lastX = x;
     m_lastY = y;
@@ -270,7 +270,7 @@ void PathEmitter::travel(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('0', x, y, m_raster ? &m_rasterPower : &m_power);
+    writeLine('0', x, y, m_raster ? &m_rasterPower : &m_power, false);
     if (m_index == 0 && !m_pathBump.isEmpty())
         appendRaw(m_pathBump);
     // A raster path goes on in increments from its first move.
@@ -285,7 +285,7 @@ void PathEmitter::burn(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('1', x, y, m_raster ? &m_rasterPower : &m_power);
+    writeLine('1', x, y, m_raster ? &m_rasterPower : &m_power, true);
     elementDone();
 }
 
@@ -293,7 +293,19 @@ void PathEmitter::coast(double x, double y)
 {
     if (cancelled())
         return;
-    writeLine('1', x, y, m_raster ? &m_rasterZero : &m_zeroPower);
+    writeLine('1', x, y, m_raster ? &m_rasterZero : &m_zeroPower, true);
+    elementDone();
+}
+
+void PathEmitter::gap(double x, double y)
+{
+    if (!m_raster) {
+        coast(x, y);
+        return;
+    }
+    if (cancelled())
+        return;
+    writeLine('0', x, y, nullptr, true);
     elementDone();
 }
 
@@ -302,7 +314,7 @@ void PathEmitter::burnGrey(double x, double y, int grey)
     if (cancelled())
         return;
     const int g = qBound(0, grey, 255);
-    writeLine('1', x, y, m_raster ? &m_rasterGrey[g] : &m_greyPower[g]);
+    writeLine('1', x, y, m_raster ? &m_rasterGrey[g] : &m_greyPower[g], true);
     elementDone();
 }
 
@@ -331,7 +343,7 @@ void PathEmitter::emitPath(const QPainterPath &path)
             else
                 sampleCubicByLength(start, e, control, end, kCurveSampleStep, m_samples);
             for (const QPointF &s : qAsConst(m_samples))
-                writeLine('1', s.x(), s.y(), nullptr);
+                writeLine('1', s.x(), s.y(), nullptr, true);
             i += 2;
             elementDone();
             break;

@@ -4,7 +4,10 @@
 // two decimals; S is the layer's power times 10 (S800.00 for 80 %), F its speed
 // in mm/min. Moves are written "G0X..Y..S..F..", burns "G1X..Y..S..F..",
 // coasts (laser off at feed speed) "G1X..Y..S0.00F..", curve samples
-// "G1X..Y.." alone. The lines of a path are flushed to the job's output
+// "G1X..Y.." alone. Gaps in a raster row of one power are rapids "G0X..":
+// the controller (in laser mode, which every job assumes: its travels run
+// with the laser enabled) switches the laser off on them, so neither the gap
+// nor the burn after it needs a power word. The lines of a path are flushed to the job's output
 // (compaction, rotary rewrite, file) whenever they pass 30000 characters after
 // an element, and at the end of every path.
 //
@@ -84,6 +87,7 @@ public:
     void travel(double x, double y) override;
     void burn(double x, double y) override;
     void coast(double x, double y) override;
+    void gap(double x, double y) override;
     void burnGrey(double x, double y, int grey) override;
     bool stopRequested() const override { return cancelled(); }
 
@@ -127,7 +131,9 @@ private:
     static constexpr int kXCacheBits = 12;
 
     void formatX(double x, NumberText &out, qint64 &hundredths);
-    void writeLine(char motion, double x, double y, const NumberText *power);
+    // `atFeed`: the move counts towards feedLength() (burns, coasts and
+    // raster gaps, which are too short for the head to outrun the feed).
+    void writeLine(char motion, double x, double y, const NumberText *power, bool atFeed);
     char *writeRelativeWords(char *p, qint64 x, qint64 y);
     const NumberText &incrementText(qint64 delta);
     void enterRelative();

@@ -164,8 +164,12 @@ public:
                 m_sink.travel(to - o, y);
                 if (m_overscan > 0)
                     m_sink.coast(to, y);
-            } else {
+            } else if (m_grey) {
+                // The grey after a gap nearly always needs its own power
+                // word, so a rapid would only add the motion words.
                 m_sink.coast(to, y);
+            } else {
+                m_sink.gap(to, y);
             }
         }
         if (m_overscan > 0)

@@ -20,6 +20,10 @@ public:
     // Move in a straight line at feed speed with the laser at zero power:
     // overscan runs and short gaps, so the head keeps its speed.
     virtual void coast(double x, double y) = 0;
+    // Cross a white gap within a raster row of one power with the laser off.
+    // A writer that knows the controller switches the laser off on rapid
+    // moves may write a rapid; otherwise it is a coast.
+    virtual void gap(double x, double y) { coast(x, y); }
     // Burn in a straight line at a power scaled by a grey level: 0 is the
     // layer's full power, 255 (white) none.
     virtual void burnGrey(double x, double y, int grey) = 0;
