@@ -43,8 +43,14 @@ public:
     enum class Ending { Running, Finished, Alarm, LinkLost, Stopped };
     Ending ending() const { return m_ending; }
     QString jobPath() const { return m_path; }
-    // The line the board is reading now (0 before its first report).
-    int currentLine() const { return m_progress.currentLine(); }
+    // The line the head is running by the last report, for the time left:
+    // once the job is indexed, the line a resume would start from (the
+    // head's position places it among the lines the planner holds, which
+    // may be long moves); before that, the line being read.
+    int headLine() const
+    {
+        return m_progress.indexed() ? m_progress.resumeLine() : m_progress.currentLine();
+    }
     // The first line not surely executed; waits for the index when it is not
     // ready yet. Meaningful after the job ended.
     int resumeLine();

@@ -68,7 +68,7 @@ void JobTimeDisplay::onProgress(int percent)
 int JobTimeDisplay::lineNow() const
 {
     if (m_wifiJob)
-        return m_wifiJob->currentLine();
+        return m_wifiJob->headLine();
     return m_watched ? m_watched->lastAcknowledgedLine() : 0;
 }
 

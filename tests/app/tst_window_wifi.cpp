@@ -12,6 +12,7 @@
 #include "program_state.h"
 #include "resume_dialog.h"
 #include "sd_file_manager.h"
+#include "sd_job_watch.h"
 #include "settings_store.h"
 #include "wifi_link_controller.h"
 #include "wifi_she_zhi.h"
@@ -189,6 +190,16 @@ private slots:
         QTRY_VERIFY2(remaining->text().startsWith(QStringLiteral("剩余 ")),
                      qPrintable(remaining->text()));
         QTRY_VERIFY(child<QProgressBar>(&w, "progress_Bar")->value() > 0);
+        // The time left counts from the line the head runs, not from the
+        // line the board reads, which is up to a planner's worth ahead.
+        SdJobWatch *watch = w.wifiController()->jobWatch();
+        QTRY_VERIFY(watch->progress().indexed() && watch->progress().hasPosition());
+        if (watch->active()) {
+            QVERIFY2(watch->headLine() <= board.jobRunner()->firstQueuedLine(),
+                     qPrintable(QStringLiteral("%1 > %2")
+                                    .arg(watch->headLine())
+                                    .arg(board.jobRunner()->firstQueuedLine())));
+        }
 
         QTRY_VERIFY_WITH_TIMEOUT(w.findChild<ResumeDialog *>(), 10000);
         ResumeDialog *dialog = w.findChild<ResumeDialog *>();
