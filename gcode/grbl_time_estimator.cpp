@@ -91,7 +91,10 @@ double trapezoid_seconds(double length, double v0, double v1, double nominal, do
     return (peak - v0) / accel + (peak - v1) / accel;
 }
 
-GrblTimeEstimator::GrblTimeEstimator(const GrblMachineSettings &settings) : m_settings(settings) {}
+GrblTimeEstimator::GrblTimeEstimator(const GrblMachineSettings &settings, bool lineTimes)
+    : m_settings(settings), m_lineTimes(lineTimes)
+{
+}
 
 void GrblTimeEstimator::addLine(const double target[3], bool rapid)
 {
@@ -111,7 +114,7 @@ void GrblTimeEstimator::addLine(const double target[3], bool rapid)
         unit[i] = delta[i] / length;
 
     Block b;
-    b.line = int(m_lineEnd.size()) - 1;
+    b.line = m_lines - 1;
     b.length = length;
     b.accel = limitByAxes(m_settings.acceleration, unit);
     const double rapidRate = limitByAxes(m_settings.maxRate, unit); // mm/min
@@ -264,14 +267,16 @@ void GrblTimeEstimator::addArc(const double target[3], const double offset[3], b
 
 void GrblTimeEstimator::feedLine(const QString &line)
 {
-    m_lineEnd.push_back(-1.0);
+    ++m_lines;
+    if (m_lineTimes)
+        m_lineEnd.push_back(-1.0);
     m_now = receive(line.size() + 1);
     const int blocksBefore = m_blocks;
     parseLine(line);
     // The controller answers once the line is planned (or waited for); a line
     // that plans no move has run by then.
     m_lastAnswered = m_now;
-    if (m_blocks == blocksBefore)
+    if (m_blocks == blocksBefore && m_lineTimes)
         m_lineEnd.back() = std::max(m_lineEnd.back(), m_now);
     if (m_settings.linkBytesPerSecond > 0.0)
         m_answers.emplace_back(m_sent, m_now);
@@ -432,7 +437,8 @@ void GrblTimeEstimator::parseLine(const QString &line)
         synchronize();
         m_seconds = m_now + std::max(0.0, pause);
         m_now = m_seconds;
-        m_lineEnd.back() = m_seconds;
+        if (m_lineTimes)
+            m_lineEnd.back() = m_seconds;
     }
     m_absolute = absolute;
     if (setOrigin) {
@@ -510,7 +516,7 @@ bool GrblTimeEstimator::estimate(QIODevice &job, const GrblMachineSettings &sett
 {
     if (!job.isReadable())
         return false;
-    GrblTimeEstimator estimator(settings);
+    GrblTimeEstimator estimator(settings, false);
     QString line;
     while (readJobLine(job, &line))
         estimator.feedLine(line);

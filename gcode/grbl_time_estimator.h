@@ -25,7 +25,10 @@ class QIODevice;
 class GrblTimeEstimator
 {
 public:
-    explicit GrblTimeEstimator(const GrblMachineSettings &settings = GrblMachineSettings());
+    // `lineTimes`: keep every line's end for lineEndSeconds() (8 bytes a
+    // line); without it only the whole time is known.
+    explicit GrblTimeEstimator(const GrblMachineSettings &settings = GrblMachineSettings(),
+                               bool lineTimes = true);
 
     // Takes one line of G-code (without its end).
     void feedLine(const QString &line);
@@ -34,12 +37,12 @@ public:
     // Planned motion blocks so far (arcs count one per segment).
     int blocks() const { return m_blocks; }
     // Lines fed so far, every line counted (comments and refused lines too).
-    int lines() const { return int(m_lineEnd.size()); }
-    // For every line fed so far, the time (seconds from the start) by which
-    // the controller has run it: its last block finished, its dwell waited. A
-    // line that does not move ends when the line before it does, so the times
-    // never decrease. Runs what is still buffered to a stop first, as
-    // seconds() does.
+    int lines() const { return m_lines; }
+    // For every line fed so far (empty when line times are not kept), the
+    // time (seconds from the start) by which the controller has run it: its
+    // last block finished, its dwell waited. A line that does not move ends
+    // when the line before it does, so the times never decrease. Runs what is
+    // still buffered to a stop first, as seconds() does.
     QVector<double> lineEndSeconds();
 
     // Estimates a whole job; false when the device cannot be read.
@@ -75,7 +78,9 @@ private:
     double m_prevNominal = 0.0;
     double m_seconds = 0.0;
     int m_blocks = 0;
-    std::vector<double> m_lineEnd; // per line fed; negative until it has run
+    bool m_lineTimes = true;
+    int m_lines = 0;
+    std::vector<double> m_lineEnd; // per line fed when kept; negative until it has run
 
     // The link (only with a link rate).
     double m_now = 0.0;          // when the controller has the line it parses

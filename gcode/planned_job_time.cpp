@@ -9,7 +9,8 @@ class PlannedJobTime::Builder
 {
 public:
     Builder(const GrblMachineSettings &settings, int lineCount)
-        : m_estimator(settings), m_every(qMax(1, (lineCount + kCheckpoints - 1) / kCheckpoints))
+        : m_estimator(settings, false),
+          m_every(qMax(1, (lineCount + kCheckpoints - 1) / kCheckpoints))
     {
         m_timeline.m_lineCount = lineCount;
         m_timeline.m_marks.append(0);
@@ -20,7 +21,9 @@ public:
     {
         m_estimator.feedLine(line);
         if (++m_line % m_every == 0 && m_line < m_timeline.m_lineCount) {
-            GrblTimeEstimator toStop = m_estimator; // what has run once these lines are done
+            // What has run once these lines are done (a cheap copy: the
+            // estimator keeps no per-line times here).
+            GrblTimeEstimator toStop = m_estimator;
             m_timeline.m_marks.append(m_line);
             m_timeline.m_seconds.append(toStop.seconds());
         }

@@ -8,6 +8,7 @@
 // 10 % .. 90 % of the file, the time of the resume line by the planner alone
 // and with the head's position taken from the job itself.
 #include "job_simulator.h"
+#include "peak_memory.h"
 #include "sd_job_progress.h"
 
 #include <QCoreApplication>
@@ -16,17 +17,6 @@
 #include <QTextStream>
 
 namespace {
-
-long peakKilobytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
-}
 
 // Where the head is once the job's first `lines` lines have run.
 QPointF positionAfter(const QString &path, int lines)
@@ -60,7 +50,7 @@ int main(int argc, char **argv)
         return 1;
     }
     out << "index: " << progress.lineCount() << " lines, " << progress.size() << " bytes in "
-        << clock.elapsed() / 1000.0 << " s; peak memory " << peakKilobytes() / 1024 << " MB\n";
+        << clock.elapsed() / 1000.0 << " s; peak memory " << peakMemoryKb() / 1024 << " MB\n";
     for (int tenth = 1; tenth <= 9; ++tenth) {
         const double percent = tenth * 10.0;
         progress.statusReport(QStringLiteral("<Run|Bf:5,0|SD:%1,/001.nc>").arg(percent, 0, 'f', 2));

@@ -7,6 +7,7 @@
 #include "busy_canvas.h"
 #include "grbl_fake.h"
 #include "jk_com.h"
+#include "peak_memory.h"
 #include "program_state.h"
 
 #include <QApplication>
@@ -44,18 +45,6 @@ qint64 writeJob(const QString &path, int lines)
         f.write(l);
     }
     return bytes;
-}
-
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    }
-    return -1;
 }
 
 // Runs the event loop until `signal` of `sender` fires or `ms` pass; true when it fired.
@@ -136,13 +125,13 @@ int main(int argc, char **argv)
                 static_cast<long long>(jobBytes), jobBytes / kWireBytesPerSecond);
 
     std::printf("unpaced runs (memory must not grow with the job), peak RSS before: %ld kB\n",
-                peakRssKb());
+                peakMemoryKb());
     for (int n : {10000, 100000, 1000000}) {
         const QString big = dir.filePath(QStringLiteral("big%1.nc").arg(n));
         const qint64 bytes = writeJob(big, n);
         const RunResult r = stream(big, bytes, 0.0);
         std::printf("%8d lines  %8.2f s  %8.0f lines/s  peak RSS %6ld kB%s%s\n", n, r.seconds,
-                    n / r.seconds, peakRssKb(), r.overrun ? "  OVERRUN" : "",
+                    n / r.seconds, peakMemoryKb(), r.overrun ? "  OVERRUN" : "",
                     r.ok ? "" : "  INCOMPLETE");
         QFile::remove(big);
     }

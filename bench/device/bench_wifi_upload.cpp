@@ -8,6 +8,7 @@
 
 #include "fake_board.h"
 #include "http_thread.h"
+#include "peak_memory.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -19,19 +20,6 @@
 #include <cstdio>
 
 namespace {
-
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    // /proc files report no size: read them whole, not up to atEnd().
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    }
-    return -1;
-}
 
 // A G-code job of about `bytes`, written a megabyte at a time.
 bool writeJob(const QString &path, qint64 bytes)
@@ -89,7 +77,7 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "cannot set up the bench\n");
         return 1;
     }
-    std::printf("peak RSS before: %ld kB\n", peakRssKb());
+    std::printf("peak RSS before: %ld kB\n", peakMemoryKb());
     for (const int mb : {1, megabytes}) {
         const QString path = dir.filePath(QStringLiteral("job-%1.nc").arg(mb));
         if (!writeJob(path, qint64(mb) << 20)) {
@@ -103,7 +91,7 @@ int main(int argc, char **argv)
             return 1;
         }
         std::printf("%6.1f MB  %7.2f s  %7.1f MB/s  byte-exact  peak RSS after: %ld kB\n",
-                    size / 1048576.0, seconds, size / 1048576.0 / seconds, peakRssKb());
+                    size / 1048576.0, seconds, size / 1048576.0 / seconds, peakMemoryKb());
         QFile::remove(path);
     }
     return 0;

@@ -23,6 +23,7 @@
 #include "job_simulator.h"
 #include "layer_list.h"
 #include "owned_items.h"
+#include "peak_memory.h"
 #include "program_state.h"
 
 #include <QApplication>
@@ -42,19 +43,6 @@
 namespace {
 
 constexpr double kWorkArea = 400.0;
-
-QString peakMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return QStringLiteral("?");
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return QString::number(line.mid(6).trimmed().split(' ').first().toLongLong() / 1024.0,
-                                   'f', 1);
-    }
-    return QStringLiteral("?");
-}
 
 struct Design
 {
@@ -192,7 +180,7 @@ int runCase(const QString &name, const QString &output, bool plainRaster)
                                .arg(cpuSeconds, 0, 'f', 3)
                                .arg(megabytes, 0, 'f', 1)
                                .arg(megabytes / seconds, 0, 'f', 1)
-                               .arg(peakMemory());
+                               .arg(peakMemoryKb() / 1024.0, 0, 'f', 1);
     for (const Jk_gcode::RasterSection &section : generator.lastRasterSections()) {
         const RunCount count = countRuns(output);
         const qint64 runs = count.burnt;

@@ -11,6 +11,7 @@
 #include "grbl_machine_settings.h"
 #include "job_player_view.h"
 #include "job_timeline.h"
+#include "peak_memory.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -19,17 +20,6 @@
 #include <QTextStream>
 
 namespace {
-
-QString peakMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return QStringLiteral("?");
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return QString::fromLatin1(line.mid(6).trimmed());
-    return QStringLiteral("?");
-}
 
 QByteArray rasterJob(int lines)
 {
@@ -82,6 +72,6 @@ int main(int argc, char **argv)
     clock.start();
     view.grab();
     out << "picture after a zoom: " << clock.nsecsElapsed() / 1e9 << " s\n";
-    out << "peak memory: " << peakMemory() << "\n";
+    out << "peak memory: " << QStringLiteral("%1 kB").arg(peakMemoryKb()) << "\n";
     return 0;
 }

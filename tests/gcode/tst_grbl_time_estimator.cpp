@@ -401,6 +401,14 @@ private slots:
             QVERIFY2(std::fabs(got.at(i) - ends.at(i)) < 1e-9,
                      qPrintable(QStringLiteral("line %1: %2").arg(i).arg(got.at(i))));
         QVERIFY(std::fabs(got.last() - e.seconds()) < 1e-12);
+
+        // Without line times the same plan, and nothing kept per line.
+        GrblTimeEstimator whole(machine(100.0), false);
+        for (const QString &line : lines)
+            whole.feedLine(line);
+        QCOMPARE(whole.lines(), lines.size());
+        QCOMPARE(whole.seconds(), e.seconds());
+        QVERIFY(whole.lineEndSeconds().isEmpty());
     }
 
     void settingsDump()
