@@ -34,6 +34,12 @@ public:
     void feedLine(const QString &line);
     // Runs what is still buffered to a stop and returns the whole time so far.
     double seconds();
+    // When the controller answered the last line fed ("ok": the line is
+    // planned, after any wait for a free planner slot, a sync or a dwell),
+    // in seconds from the start. A sender that has its answer for that line
+    // is this far into the job, though the lines still in the planner have
+    // not run yet.
+    double answeredSeconds() const { return m_lastAnswered; }
     // Planned motion blocks so far (arcs count one per segment).
     int blocks() const { return m_blocks; }
     // Lines fed so far, every line counted (comments and refused lines too).

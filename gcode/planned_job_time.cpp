@@ -15,6 +15,7 @@ public:
         m_timeline.m_lineCount = lineCount;
         m_timeline.m_marks.append(0);
         m_timeline.m_seconds.append(0.0);
+        m_timeline.m_answered.append(0.0);
     }
 
     void feed(const QString &line)
@@ -25,6 +26,7 @@ public:
             // estimator keeps no per-line times here).
             GrblTimeEstimator toStop = m_estimator;
             m_timeline.m_marks.append(m_line);
+            m_timeline.m_answered.append(m_estimator.answeredSeconds());
             m_timeline.m_seconds.append(toStop.seconds());
         }
     }
@@ -35,6 +37,7 @@ public:
         m_timeline.m_lineCount = m_line;
         m_timeline.m_marks.append(m_line);
         m_timeline.m_seconds.append(m_timeline.m_total);
+        m_timeline.m_answered.append(m_estimator.answeredSeconds());
         return m_timeline;
     }
 
@@ -76,26 +79,45 @@ bool PlannedJobTime::planFile(const QString &path, const GrblMachineSettings &se
     return true;
 }
 
-double PlannedJobTime::secondsThrough(int line) const
+double PlannedJobTime::interpolated(const QVector<double> &atMarks, int line) const
 {
     if (m_marks.isEmpty() || line <= 0)
         return 0.0;
     if (line >= m_marks.last())
-        return m_total;
+        return atMarks.last();
     const auto it = std::upper_bound(m_marks.cbegin(), m_marks.cend(), line);
     const int hi = int(it - m_marks.cbegin());
     const int lo = hi - 1;
     const double k = double(line - m_marks[lo]) / double(m_marks[hi] - m_marks[lo]);
-    return m_seconds[lo] + k * (m_seconds[hi] - m_seconds[lo]);
+    return atMarks[lo] + k * (atMarks[hi] - atMarks[lo]);
 }
 
-double PlannedJobTime::remainingSeconds(int acknowledged, double elapsed) const
+double PlannedJobTime::secondsThrough(int line) const
 {
-    const double done = secondsThrough(acknowledged);
+    return interpolated(m_seconds, line);
+}
+
+double PlannedJobTime::secondsAnswered(int line) const
+{
+    return interpolated(m_answered, line);
+}
+
+double PlannedJobTime::remainingAfter(double done, double elapsed) const
+{
     double rest = qMax(0.0, m_total - done);
     if (done >= kCorrectAfter && elapsed > 0.0)
         rest *= qBound(0.5, elapsed / done, 3.0);
     return rest;
+}
+
+double PlannedJobTime::remainingSeconds(int acknowledged, double elapsed) const
+{
+    return remainingAfter(secondsAnswered(acknowledged), elapsed);
+}
+
+double PlannedJobTime::remainingFromRunning(int running, double elapsed) const
+{
+    return remainingAfter(secondsThrough(running - 1), elapsed);
 }
 
 QString formatRunTime(double seconds)

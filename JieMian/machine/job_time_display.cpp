@@ -65,11 +65,11 @@ void JobTimeDisplay::onProgress(int percent)
     begin(lumitra::programState().jobFilePath);
 }
 
-int JobTimeDisplay::lineNow() const
+double JobTimeDisplay::remainingSeconds(double elapsed) const
 {
     if (m_wifiJob)
-        return m_wifiJob->headLine();
-    return m_watched ? m_watched->lastAcknowledgedLine() : 0;
+        return m_timeline.remainingFromRunning(m_wifiJob->headLine(), elapsed);
+    return m_timeline.remainingSeconds(m_watched ? m_watched->lastAcknowledgedLine() : 0, elapsed);
 }
 
 void JobTimeDisplay::begin(const QString &path)
@@ -111,7 +111,7 @@ void JobTimeDisplay::refresh(double elapsedSeconds)
         return;
     const double elapsed = elapsedSeconds >= 0.0 ? elapsedSeconds : m_clock.elapsed() / 1000.0;
     m_panel->form().remaining_Lab->setText(
-        tr("剩余 %1").arg(formatRunTime(m_timeline.remainingSeconds(lineNow(), elapsed))));
+        tr("剩余 %1").arg(formatRunTime(remainingSeconds(elapsed))));
 }
 
 QString JobTimeDisplay::text() const

@@ -45,8 +45,10 @@ private:
     void onWifiJobStarted(const QString &path);
     // Plans `path` and shows its time left from now on.
     void begin(const QString &path);
-    // The job line the machine has reached.
-    int lineNow() const;
+    // The plan's time still to run, `elapsed` seconds in: from the line the
+    // head runs for a job on the card, from the last line answered for a
+    // streamed one.
+    double remainingSeconds(double elapsed) const;
     void stopShowing();
 
     QPointer<MachineController> m_machine;

@@ -14,6 +14,7 @@ private slots:
     void followsThePlan();
     void remainingIsCorrectedByTheRealTime_data();
     void remainingIsCorrectedByTheRealTime();
+    void answeredLinesAreNotRunYet();
     void format_data();
     void format();
 };
@@ -82,16 +83,45 @@ void TestPlannedJobTime::remainingIsCorrectedByTheRealTime()
     const QStringList job = rows(400);
     const PlannedJobTime t = PlannedJobTime::plan(job, GrblMachineSettings());
     const int line = job.size() / 3;
-    const double done = t.secondsThrough(line);
+    const double done = t.secondsAnswered(line);
     QVERIFY(done > PlannedJobTime::kCorrectAfter);
     const double rest = t.totalSeconds() - done;
     QVERIFY(qAbs(t.remainingSeconds(line, done * speed) - rest * scale) < 1e-6);
+    // Running a line: the lines before it have run.
+    const double run = t.secondsThrough(line - 1);
+    QVERIFY(qAbs(t.remainingFromRunning(line, run * speed) - (t.totalSeconds() - run) * scale)
+            < 1e-6);
     // Too early to judge: the plan alone.
     const int early = 6;
-    QVERIFY(t.secondsThrough(early) < PlannedJobTime::kCorrectAfter);
-    QVERIFY(qAbs(t.remainingSeconds(early, 100.0) - (t.totalSeconds() - t.secondsThrough(early)))
+    QVERIFY(t.secondsAnswered(early) < PlannedJobTime::kCorrectAfter);
+    QVERIFY(qAbs(t.remainingSeconds(early, 100.0) - (t.totalSeconds() - t.secondsAnswered(early)))
             < 1e-6);
     QCOMPARE(t.remainingSeconds(job.size(), 1.0), 0.0);
+}
+
+// Moves of 50 mm back and forth, each from rest to rest (5.1 s at 10 mm/s
+// and 100 mm/s²). The controller answers the first 15 at once, while the
+// planner has room; the 16th once the first has run, and so on. So with 16
+// lines answered nothing has run yet, and the time left is the whole job.
+void TestPlannedJobTime::answeredLinesAreNotRunYet()
+{
+    QStringList job{"G1F600"};
+    for (int i = 0; i < 40; ++i)
+        job << (i % 2 ? "X0" : "X50");
+    GrblMachineSettings machine;
+    for (int i = 0; i < 3; ++i) {
+        machine.maxRate[i] = 6000.0;
+        machine.acceleration[i] = 100.0;
+    }
+    const PlannedJobTime t = PlannedJobTime::plan(job, machine);
+    const double move = 0.2 + 49.0 / 10.0;
+    QVERIFY(qAbs(t.totalSeconds() - 40 * move) < 1e-9);
+    QCOMPARE(t.secondsAnswered(16), 0.0);
+    QVERIFY(qAbs(t.secondsAnswered(17) - move) < 1e-9);
+    QVERIFY(qAbs(t.remainingSeconds(16, 0.0) - t.totalSeconds()) < 1e-9);
+    QVERIFY(qAbs(t.remainingSeconds(20, 4 * move) - 36 * move) < 1e-9);
+    // Running the 5th move (line 6): four have run.
+    QVERIFY(qAbs(t.remainingFromRunning(6, 4 * move) - 36 * move) < 1e-9);
 }
 
 void TestPlannedJobTime::format_data()
