@@ -15,7 +15,7 @@ void runSendLoop(StreamState &stream, const std::atomic_bool &running, const Sen
         if (room < 0 || !running.load())
             continue;
 
-        for (int p : stream.countSent())
+        for (int p : stream.countSent(taken.jobLine > 0))
             out.progress(p);
         stream.commit(taken, out.write);
         stream.refillIfLow();

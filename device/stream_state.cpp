@@ -211,10 +211,12 @@ void StreamState::beginJob(int totalLines)
     m_execution.beginJob();
 }
 
-QList<int> StreamState::countSent()
+QList<int> StreamState::countSent(bool jobLine)
 {
-    QMutexLocker lock(&m_mutex);
     QList<int> announce;
+    if (!jobLine)
+        return announce; // a command (connecting, "$10", a jog) starts no job
+    QMutexLocker lock(&m_mutex);
     if (m_sentLines == 0) {
         announce.append(0);
         m_lastProgress = 0;

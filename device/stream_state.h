@@ -97,9 +97,10 @@ public:
 
     // Job progress counters (lines of the running file and lines sent).
     void beginJob(int totalLines);
-    // Counts one sent line; returns the progress to announce, or -1 when it has
-    // not changed. The first line of a job announces 0 before counting.
-    QList<int> countSent();
+    // Counts one sent line of the job (`jobLine`; commands sent around it do
+    // not count) and returns the progress to announce: the first line of a
+    // job announces 0 before counting, later ones a percent that changed.
+    QList<int> countSent(bool jobLine);
 
     int inFlight() const;
     QList<int> inFlightLengths() const;

@@ -3,10 +3,12 @@
 #include "window_driver.h"
 
 #include "../document/layer_bytes.h"
+#include "burn_check.h"
 #include "gcode_job_controller.h"
 #include "grbl_fake.h"
 #include "import_actions.h"
 #include "importer_registry.h"
+#include "jk_com.h"
 #include "job_simulator.h"
 #include "language_controller.h"
 #include "layer_list.h"
@@ -18,6 +20,7 @@
 #include "project_commands.h"
 #include "recent_files.h"
 #include "recent_files_menu.h"
+#include "resume_dialog.h"
 #include "settings_store.h"
 #include "tu_ceng.h"
 #include "tu_ceng_item2.h"
@@ -28,10 +31,13 @@
 #include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLayout>
 #include <QMenu>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QScrollArea>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -585,6 +591,60 @@ private slots:
         QVERIFY(w.close()); // nothing drawn: no unsaved question
         QVERIFY(fake.realTimeBytes().contains("!\x18"));
         QTRY_VERIFY(fake.lines().contains(QStringLiteral("M5")));
+    }
+
+    // A serial job through the window, the way a user meets it: connect by
+    // the port box first, then run a job; an alarm halfway offers to resume
+    // at the line after the last one the machine ran, and the resumed job
+    // completes the burn with no gap. (The lines sent on connecting used to
+    // pass for the start of a job, so no offer came.)
+    void serialJobResumesAfterAnAlarm()
+    {
+        QRandomGenerator random(burn_check::resumeSeed());
+        const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("job.nc"));
+        QVERIFY(burn_check::writeJob(file, job));
+        const int alarmAt = 40 + int(random.bounded(job.size() - 80));
+
+        GrblFake::Options o;
+        o.motionMsPerLine = 8;
+        GrblFake fake(o);
+        fake.alarmAtLine(alarmAt, 1);
+        QVERIFY(fake.start());
+        Widget w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        child<QComboBox>(&w, "port_Box")->setEditText(fake.portName());
+        child<QPushButton>(&w, "connect_Btn")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(programState().connectionMode, int(SerialLink), 5000);
+        QTRY_VERIFY(fake.lines().contains(QStringLiteral("$$"))); // the connect's own lines
+        const int connectLines = fake.lineCount();
+
+        w.machineController()->runJob(file);
+        QTRY_VERIFY_WITH_TIMEOUT(w.findChild<ResumeDialog *>(), 20000);
+        ResumeDialog *dialog = w.findChild<ResumeDialog *>();
+        const int from = dialog->line();
+        // The alarm came instead of the answer to the fake's line alarmAt:
+        // the job's line there and every one after it never ran.
+        const int jobStart = fake.lines().indexOf(job.first(), connectLines);
+        QVERIFY(jobStart >= 0);
+        const int alarmLine = alarmAt - jobStart;
+        qInfo("alarm at job line %d; resume offered at %d", alarmLine, from);
+        // (Line 1 when no status report had shown a line run yet.)
+        QVERIFY(from >= 1 && from <= alarmLine);
+        QVERIFY(child<QLabel>(dialog, "warning_Lab")->isVisibleTo(dialog)); // home first
+
+        // The user homes (which clears the alarm), then resumes.
+        child<QPushButton>(&w, "home_Btn")->click();
+        QTRY_VERIFY(!fake.inAlarm());
+        QTRY_VERIFY(!w.machineController()->busy());
+        QSignalSpy finished(w.machineController()->link(), &Jk_com::jobFinished);
+        dialog->accept();
+        QVERIFY(finished.wait(30000));
+        const QString wrong = burn_check::compare(
+            job, burn_check::machineBurns(fake.executedMoves()), from, alarmLine - 1);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
 
     // The board's radio setup goes over the serial link when that is the
