@@ -167,10 +167,8 @@ private slots:
     {
         QRandomGenerator random(burn_check::resumeSeed());
         const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
-        QTemporaryFile file(QDir::temp().filePath("lumitra-XXXXXX.nc"));
-        QVERIFY(file.open());
-        file.close();
-        QVERIFY(burn_check::writeJob(file.fileName(), job));
+        QTemporaryFile file;
+        QVERIFY(burn_check::writeTemporaryJob(file, job));
 
         FakeBoard::Options o;
         o.executeJobs = true;
@@ -232,10 +230,8 @@ private slots:
     {
         QRandomGenerator random(5);
         const QStringList job = burn_check::makeJob([&](int n) { return random.bounded(n); });
-        QTemporaryFile file(QDir::temp().filePath("lumitra-XXXXXX.nc"));
-        QVERIFY(file.open());
-        file.close();
-        QVERIFY(burn_check::writeJob(file.fileName(), job));
+        QTemporaryFile file;
+        QVERIFY(burn_check::writeTemporaryJob(file, job));
         FakeBoard::Options o;
         o.executeJobs = true;
         o.msPerBlock = 15;

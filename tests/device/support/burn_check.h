@@ -4,12 +4,14 @@
 // no stray burn, no gap, and no more burnt twice than allowed.
 #include "job_simulator.h"
 
+#include <QDir>
 #include <QFile>
 #include <QList>
 #include <QPointF>
 #include <QRandomGenerator>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <algorithm>
 #include <cmath>
 
@@ -71,6 +73,16 @@ inline bool writeJob(const QString &path, const QStringList &job)
     QFile f(path);
     const QByteArray bytes = (job.join('\n') + '\n').toLatin1();
     return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
+}
+
+// Writes `job` to a fresh temporary file (gone with `file`).
+inline bool writeTemporaryJob(QTemporaryFile &file, const QStringList &job)
+{
+    file.setFileTemplate(QDir::temp().filePath(QStringLiteral("lumitra-XXXXXX.nc")));
+    if (!file.open())
+        return false;
+    file.close();
+    return writeJob(file.fileName(), job);
 }
 
 // The burns among moves a machine ran (anything with from, to, burning, power).
