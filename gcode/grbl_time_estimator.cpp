@@ -185,22 +185,23 @@ void GrblTimeEstimator::executeFront()
     const double start = std::max(m_seconds, front.parsed);
     if (front.parsed > m_seconds)
         m_entrySq = 0.0; // the machine stood waiting for it
+    const double entry = std::sqrt(m_entrySq);
     double exitSq = exitSqWithin(m_queue.size());
+    double seconds =
+        trapezoid_seconds(front.length, entry, std::sqrt(exitSq), front.nominal, front.accel);
     if (m_settings.linkBytesPerSecond > 0.0) {
         // A block that comes while the front one runs still raises its exit
         // speed; blocks are short against that, so "before it would end" it is.
-        const double until = start
-                             + trapezoid_seconds(front.length, std::sqrt(m_entrySq),
-                                                 std::sqrt(exitSq), front.nominal, front.accel);
         size_t known = 1;
-        while (known < m_queue.size() && m_queue[known].parsed <= until)
+        while (known < m_queue.size() && m_queue[known].parsed <= start + seconds)
             ++known;
-        if (known < m_queue.size())
+        if (known < m_queue.size()) {
             exitSq = exitSqWithin(known);
+            seconds = trapezoid_seconds(front.length, entry, std::sqrt(exitSq), front.nominal,
+                                        front.accel);
+        }
     }
-    m_seconds = start
-                + trapezoid_seconds(front.length, std::sqrt(m_entrySq), std::sqrt(exitSq),
-                                    front.nominal, front.accel);
+    m_seconds = start + seconds;
     m_entrySq = exitSq;
     if (front.line >= 0 && size_t(front.line) < m_lineEnd.size())
         m_lineEnd[size_t(front.line)] = m_seconds;
