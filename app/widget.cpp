@@ -219,16 +219,19 @@ void Widget::previewJob()
     const ProgramState &s = programState();
     auto *dialog = new JobPreviewDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // Timed with the controller's own motion planning once its settings are known.
-    const QMap<QString, QString> reported = m_machine->machineSettings();
+    // Timed with the controller's own motion planning: with the settings it
+    // last reported, or its factory settings when none has been connected yet
+    // (the dialog says so, since those are rarely a laser's).
+    const bool factorySettings = m_machine->machineSettings().isEmpty();
     const GrblMachineSettings machine =
         m_machine->jobTimingSettings(s.connectionMode == lumitra::WifiLink);
-    dialog->setPreview(renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0,
-                                        reported.isEmpty() ? nullptr : &machine));
+    dialog->setPreview(
+        renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0, &machine),
+        factorySettings);
     dialog->setTravelSaved(lumitra::cutOrderTravelSaved(items, LayerList::instance()));
     // The player plays the same job back, timed the same way.
     job.seek(0);
-    dialog->setJob(job, reported.isEmpty() ? nullptr : &machine);
+    dialog->setJob(job, &machine);
     dialog->show();
 }
 

@@ -44,14 +44,17 @@ QString JobPreviewDialog::durationText(double seconds)
     return QStringLiteral("%1:%2").arg(m).arg(rest, 2, 10, QLatin1Char('0'));
 }
 
-void JobPreviewDialog::setPreview(const JobPreview &preview)
+void JobPreviewDialog::setPreview(const JobPreview &preview, bool factorySettings)
 {
     m_image = preview.image;
     const JobSimulator::Summary &s = preview.summary;
     if (preview.plannedSeconds >= 0.0) {
         m_ui->time_Lab->setText(durationText(preview.plannedSeconds));
-        m_ui->time_Lab->setToolTip(
-            tr("含加速与转角减速；只按速度：%1").arg(durationText(s.seconds)));
+        QString tip = tr("含加速与转角减速；只按速度：%1").arg(durationText(s.seconds));
+        if (factorySettings)
+            tip += QLatin1Char('\n')
+                   + tr("尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确");
+        m_ui->time_Lab->setToolTip(tip);
     } else {
         m_ui->time_Lab->setText(durationText(s.seconds));
         m_ui->time_Lab->setToolTip(QString());

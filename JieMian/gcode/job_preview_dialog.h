@@ -32,7 +32,9 @@ public:
     explicit JobPreviewDialog(QWidget *parent = nullptr);
     ~JobPreviewDialog() override;
 
-    void setPreview(const JobPreview &preview);
+    // `factorySettings`: the planned time uses the controller's factory
+    // settings because none has reported its own yet; the time's tip says so.
+    void setPreview(const JobPreview &preview, bool factorySettings = false);
     // The travel (mm) the optimised cut order saves in this job
     // (cutOrderTravelSaved in cut_order.h); shown after the travel when
     // positive. Call after setPreview.

@@ -1144,6 +1144,10 @@ Fortfahren?</translation>
         <source>暂停</source>
         <translation>Pause</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>Die Maschine hat ihre Einstellungen noch nicht gemeldet: geschätzt mit den Werkseinstellungen der Steuerung; mit verbundener Maschine genauer</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

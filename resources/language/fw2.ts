@@ -1144,6 +1144,10 @@ Continuer&#xa0;?</translation>
         <source>暂停</source>
         <translation>Pause</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>Réglages de la machine pas encore lus : estimation avec les réglages d’usine du contrôleur ; plus précise une fois la machine connectée</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

@@ -1144,6 +1144,10 @@
         <source>暂停</source>
         <translation>일시정지</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>아직 기계 설정을 읽지 못해 컨트롤러 출고 설정으로 추정; 기계를 연결하면 더 정확</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

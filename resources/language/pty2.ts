@@ -1144,6 +1144,10 @@ Continuar?</translation>
         <source>暂停</source>
         <translation>Pausar</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>As definições da máquina ainda não foram lidas: estimado com as definições de fábrica do controlador; mais exato com a máquina ligada</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

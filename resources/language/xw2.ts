@@ -1144,6 +1144,10 @@
         <source>暂停</source>
         <translation>Pausa</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>Aún no se han leído los ajustes de la máquina: estimado con los ajustes de fábrica del controlador; más preciso con la máquina conectada</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

@@ -1144,6 +1144,10 @@ Continuare?</translation>
         <source>暂停</source>
         <translation>Pausa</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>Impostazioni della macchina non ancora lette: stima con le impostazioni di fabbrica del controller; più precisa con la macchina collegata</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

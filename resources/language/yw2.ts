@@ -1144,6 +1144,10 @@ Continue?</translation>
         <source>暂停</source>
         <translation>Pause</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>The machine's settings have not been read yet: estimated with the controller's factory settings; more accurate once a machine is connected</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

@@ -1144,6 +1144,10 @@
         <source>暂停</source>
         <translation>暂停</translation>
     </message>
+    <message>
+        <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
+        <translation>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</translation>
+    </message>
 </context>
 <context>
     <name>JobTimeDisplay</name>

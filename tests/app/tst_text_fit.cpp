@@ -99,7 +99,7 @@ QStringList cutTexts(QWidget *root)
                            .arg(need)
                            .arg(b->width());
         } else if (auto *l = qobject_cast<QLabel *>(w)) {
-            if (l->text().isEmpty() || l->wordWrap() || l->pixmap())
+            if (l->text().isEmpty() || l->wordWrap() || !l->pixmap(Qt::ReturnByValue).isNull())
                 continue;
             if (l->sizeHint().width() > l->width() + kSlack)
                 cut << QStringLiteral("%1: \"%2\" needs %3, has %4")

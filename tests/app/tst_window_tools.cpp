@@ -142,7 +142,9 @@ private slots:
         QVERIFY2(qAbs(sizeShown().width() - 90) < 1, qPrintable(status->text()));
     }
 
-    // The preview button opens the preview with the job loaded in its player.
+    // The preview button opens the preview with the job loaded in its player,
+    // timed by the controller's planning: its factory settings (and a tip
+    // saying so) until a machine has reported its own, then those.
     void previewPlaysTheJob()
     {
         Widget w;
@@ -152,14 +154,36 @@ private slots:
         Driver d(&w);
         d.drawRectangle(QPointF(50, -50), QPointF(120, -100));
         Driver::settle();
-        child<QAbstractButton>(&w, "preview_Btn")->click();
-        JobPreviewDialog *dialog = nullptr;
-        QTRY_VERIFY((dialog = w.findChild<JobPreviewDialog *>()) != nullptr);
+        auto openPreview = [&w]() -> JobPreviewDialog * {
+            child<QAbstractButton>(&w, "preview_Btn")->click();
+            JobPreviewDialog *dialog = nullptr;
+            if (!QTest::qWaitFor([&] { return (dialog = w.findChild<JobPreviewDialog *>()); }))
+                return nullptr;
+            return dialog;
+        };
+        JobPreviewDialog *dialog = openPreview();
+        QVERIFY(dialog);
         // The rectangle: a move and four burns at least.
         QVERIFY2(dialog->timeline().lineCount() >= 5,
                  qPrintable(QString::number(dialog->timeline().lineCount())));
-        QVERIFY(dialog->timeline().totalSeconds() > 0);
-        dialog->close();
+        QVERIFY(dialog->timeline().timedByMachine());
+        const double factoryTime = dialog->timeline().totalSeconds();
+        QVERIFY(factoryTime > 0);
+        const QString factoryTip = child<QLabel>(dialog, "time_Lab")->toolTip();
+        QVERIFY2(factoryTip.contains(QStringLiteral("出厂设置")), qPrintable(factoryTip));
+        delete dialog;
+
+        // A laser's own settings, as a connection stores them: far faster
+        // than the factory's 500 mm/min and 10 mm/s².
+        set_setting(QStringLiteral("JiQi/CanShu"),
+                    QStringLiteral("$32=1 $110=6000 $111=6000 $120=3000 $121=3000"));
+        dialog = openPreview();
+        QVERIFY(dialog);
+        const double machineTime = dialog->timeline().totalSeconds();
+        QVERIFY2(machineTime > 0 && machineTime < factoryTime,
+                 qPrintable(QStringLiteral("%1 vs %2").arg(machineTime).arg(factoryTime)));
+        QVERIFY(!child<QLabel>(dialog, "time_Lab")->toolTip().contains(QStringLiteral("出厂设置")));
+        delete dialog;
     }
 
     // The cloud button: account features ask to log in first.

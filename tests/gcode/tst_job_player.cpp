@@ -98,7 +98,8 @@ struct Player
         dialog.setJob(job, machine);
         dialog.resize(820, 720);
         dialog.show();
-        QTest::qWaitForWindowExposed(&dialog);
+        if (!QTest::qWaitForWindowExposed(&dialog))
+            qWarning("the player dialog was never shown");
     }
     // One frame of the play timer after `ms` on the clock.
     void frame(qint64 ms)
