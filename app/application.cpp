@@ -12,6 +12,7 @@
 #include "language.h"
 #include "qidongye.h"
 #include "resume_plan.h"
+#include "settings_store.h"
 #include "unix_signals.h"
 #include "widget.h"
 #include "work_area.h"
@@ -136,11 +137,13 @@ int runCameraPhoto(const CommandLine &cl)
 }
 
 // --estimate FILE [--settings DUMP] [--baud N]: the job's running time as the
-// controller plans it, in seconds, on one line.
+// controller plans it, in seconds, on one line. The settings come from DUMP,
+// else from those the last connected controller reported, else its factory
+// values.
 int runEstimate(const CommandLine &cl)
 {
     QTextStream err(stderr);
-    GrblMachineSettings machine;
+    GrblMachineSettings machine = GrblMachineSettings::fromDeviceInfo(stored_machine_settings());
     if (!cl.settingsFile.isEmpty()) {
         QFile dump(cl.settingsFile);
         if (!dump.open(QIODevice::ReadOnly | QIODevice::Text)) {

@@ -63,8 +63,10 @@ CommandLine parse_command_line(const QStringList &arguments)
         QStringLiteral("FILE"));
     const QCommandLineOption settingsOpt(
         QStringLiteral("settings"),
-        QStringLiteral("Text file with the controller's $$ reply ($110=... lines) used by "
-                       "--estimate; the controller's defaults otherwise."),
+        QStringLiteral(
+            "Text file with the controller's $$ reply ($110=... lines) used by "
+            "--estimate; otherwise the settings the last connected controller reported, else its "
+            "factory values."),
         QStringLiteral("DUMP"));
     const QCommandLineOption baudOpt(
         QStringLiteral("baud"),

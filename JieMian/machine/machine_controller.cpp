@@ -304,15 +304,7 @@ void MachineController::applyStatus(StatusLink link, const QString &text)
 
 QMap<QString, QString> MachineController::machineSettings() const
 {
-    QMap<QString, QString> settings;
-    const QStringList stored = lumitra::get_setting(QStringLiteral("JiQi/CanShu"))
-                                   .split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &entry : stored) {
-        const int eq = entry.indexOf(QLatin1Char('='));
-        if (eq > 1)
-            settings.insert(entry.left(eq), entry.mid(eq + 1));
-    }
-    return settings;
+    return lumitra::stored_machine_settings();
 }
 
 GrblMachineSettings MachineController::jobTimingSettings(bool fromCard) const
@@ -325,12 +317,7 @@ GrblMachineSettings MachineController::jobTimingSettings(bool fromCard) const
 void MachineController::onSettings(const QMap<QString, QString> &info)
 {
     // Kept for the job-time estimate, also for a later run without a machine.
-    QStringList settingsText;
-    for (auto it = info.constBegin(); it != info.constEnd(); ++it)
-        if (it.key().startsWith(QLatin1Char('$')) && !it.value().contains(QLatin1Char(' ')))
-            settingsText << it.key() + QLatin1Char('=') + it.value();
-    if (!settingsText.isEmpty())
-        lumitra::set_setting(QStringLiteral("JiQi/CanShu"), settingsText.join(QLatin1Char(' ')));
+    lumitra::store_machine_settings(info);
     const lumitra::MachineTravel travel =
         lumitra::work_area_from_machine(lumitra::numbered_settings(info));
     Ui::MachinePanel &f = m_panel->form();

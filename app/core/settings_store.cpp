@@ -50,6 +50,34 @@ void set_setting(const QString &key, const QString &value)
     qDebug() << " key " << key;
 }
 
+namespace {
+const QString kMachineSettingsKey = QStringLiteral("JiQi/CanShu");
+}
+
+QMap<QString, QString> stored_machine_settings()
+{
+    // One line of "$N=VALUE" entries separated by spaces.
+    QMap<QString, QString> settings;
+    const QStringList stored =
+        get_setting(kMachineSettingsKey).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &entry : stored) {
+        const int eq = entry.indexOf(QLatin1Char('='));
+        if (eq > 1)
+            settings.insert(entry.left(eq), entry.mid(eq + 1));
+    }
+    return settings;
+}
+
+void store_machine_settings(const QMap<QString, QString> &info)
+{
+    QStringList entries;
+    for (auto it = info.constBegin(); it != info.constEnd(); ++it)
+        if (it.key().startsWith(QLatin1Char('$')) && !it.value().contains(QLatin1Char(' ')))
+            entries << it.key() + QLatin1Char('=') + it.value();
+    if (!entries.isEmpty())
+        set_setting(kMachineSettingsKey, entries.join(QLatin1Char(' ')));
+}
+
 bool settings_file_exists()
 {
     return QFileInfo::exists(config_path());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 namespace lumitra {
@@ -23,6 +24,13 @@ QString get_setting(const QString &key);
 
 // Stores `value` under `key`; written to disk before returning.
 void set_setting(const QString &key, const QString &value);
+
+// The controller settings it last reported ("$110" -> "6000.000", ...), kept
+// so that jobs can be timed without a machine; empty when none has been.
+QMap<QString, QString> stored_machine_settings();
+// Replaces the kept controller settings with the "$N" entries of `info`
+// (other entries, and values holding spaces, are left out).
+void store_machine_settings(const QMap<QString, QString> &info);
 
 // True when config.ini already exists.
 bool settings_file_exists();
