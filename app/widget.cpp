@@ -223,8 +223,7 @@ void Widget::previewJob()
     // last reported, or its factory settings when none has been connected yet
     // (the dialog says so, since those are rarely a laser's).
     const bool factorySettings = m_machine->machineSettings().isEmpty();
-    const GrblMachineSettings machine =
-        m_machine->jobTimingSettings(s.connectionMode == lumitra::WifiLink);
+    const GrblMachineSettings machine = m_machine->plannedJobSettings();
     dialog->setPreview(
         renderJobPreview(job, QRectF(0, 0, s.width, s.height), 4.0, 2400, 1000.0, &machine),
         factorySettings);

@@ -26,6 +26,9 @@ constexpr int kIndicatorTickMs = 1000;
 constexpr int kSettingsAfterConnectMs = 2000;
 constexpr int kHomeAfterAlarmMs = 1000;
 constexpr int kWifiAlarmRearmMs = 3000;
+// The link the machine was last connected over (SerialLink or WifiLink), for
+// timing a job while no link is up.
+const QString kLastLinkKey = QStringLiteral("JiQi/LianJie");
 
 } // namespace
 
@@ -175,6 +178,7 @@ void MachineController::onLinkResult(bool linked)
         return;
     }
     programState().connectionMode = lumitra::SerialLink;
+    lumitra::set_setting(kLastLinkKey, QString::number(lumitra::SerialLink));
     m_com->queueText(lumitra::grbl::homeText());
     m_afterConnectTimer.start();
     m_panel->form().connect_Btn->setText(tr("已连接"));
@@ -314,6 +318,14 @@ GrblMachineSettings MachineController::jobTimingSettings(bool fromCard) const
     return settings;
 }
 
+GrblMachineSettings MachineController::plannedJobSettings() const
+{
+    int link = programState().connectionMode;
+    if (link == lumitra::NotConnected)
+        link = lumitra::get_setting(kLastLinkKey).toInt();
+    return jobTimingSettings(link == lumitra::WifiLink);
+}
+
 void MachineController::onSettings(const QMap<QString, QString> &info)
 {
     // Kept for the job-time estimate, also for a later run without a machine.
@@ -368,6 +380,7 @@ void MachineController::setWifiLinked(const QString &address)
 {
     m_wifiAddress = address;
     programState().connectionMode = lumitra::WifiLink;
+    lumitra::set_setting(kLastLinkKey, QString::number(lumitra::WifiLink));
     m_wifiStatus = StatusDisplayState();
     if (m_watcher)
         m_watcher->setLinkMode(lumitra::WifiLink);

@@ -91,6 +91,10 @@ public:
     // link's rate unless `fromCard` (a WiFi job runs from the board's card,
     // which keeps up with the machine).
     GrblMachineSettings jobTimingSettings(bool fromCard) const;
+    // The same for a job about to be previewed: run from the card when the
+    // WiFi link is up, or, with no link up, when the last link (in this run
+    // or an earlier one) was WiFi; over the serial link otherwise.
+    GrblMachineSettings plannedJobSettings() const;
     bool travelKnown() const { return m_travelKnown; }
 
 public slots:

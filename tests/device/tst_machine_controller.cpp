@@ -9,6 +9,8 @@
 #include "message_box.h"
 #include "port_choice.h"
 #include "program_state.h"
+#include "raster_words.h"
+#include "settings_store.h"
 #include "stream_state.h"
 #include "ui_machine_panel.h"
 
@@ -27,6 +29,7 @@ private slots:
     void cleanup();
 
     void connectHomesAndShowsLinked();
+    void jobTimingFollowsTheLink();
     void settingsGiveWorkArea();
     void controls_data();
     void controls();
@@ -123,6 +126,32 @@ void TestMachineController::connectHomesAndShowsLinked()
     QCOMPARE(m_panel->form().connect_Btn->text(), QString("连接"));
     QVERIFY(!m_controller->link()->isOpen());
     QVERIFY(m_messages.isEmpty());
+}
+
+// A previewed job is timed for the link it will run over: the serial link's
+// rate, or none for a WiFi job run from the board's card; with no link up,
+// the link last used (kept across runs).
+void TestMachineController::jobTimingFollowsTheLink()
+{
+    lumitra::set_setting(QStringLiteral("JiQi/LianJie"), QString());
+    const double serial = lumitra::kSerialBytesPerSecond;
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, serial); // never linked
+
+    m_controller->setWifiLinked(QStringLiteral("127.0.0.1:1"));
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, 0.0);
+    m_controller->onWifiLost(true);
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, 0.0);
+    // A later run remembers it too.
+    m_controller = std::make_unique<MachineController>(m_panel.get(), m_panel.get());
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, 0.0);
+
+    GrblFake fake;
+    QVERIFY(connectTo(fake));
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, serial);
+    m_panel->form().connect_Btn->click();
+    QCOMPARE(programState().connectionMode, int(lumitra::NotConnected));
+    QCOMPARE(m_controller->plannedJobSettings().linkBytesPerSecond, serial);
 }
 
 void TestMachineController::settingsGiveWorkArea()
