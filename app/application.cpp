@@ -142,6 +142,8 @@ int runCameraPhoto(const CommandLine &cl)
 // values.
 int runEstimate(const CommandLine &cl)
 {
+    // Reading the kept settings logs; the one line on stdout (or stderr) says it all.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     QTextStream err(stderr);
     GrblMachineSettings machine = GrblMachineSettings::fromDeviceInfo(stored_machine_settings());
     if (!cl.settingsFile.isEmpty()) {

@@ -95,6 +95,7 @@ private slots:
         QByteArray out, err;
         QCOMPARE(run(args, &out, &err), 0);
         QCOMPARE(out, expected);
+        QCOMPARE(err, QByteArray());
     }
 
     void refusesUnreadableFiles_data()
