@@ -61,23 +61,21 @@ int runExport(const CommandLine &cl)
 bool writeResumedJob(const CommandLine &cl, const QTemporaryDir &dir, QString *file,
                      gcode::ResumeJob *resumed, QTextStream &out, QTextStream &err)
 {
-    QStringList job;
-    QString error;
-    if (!gcode::readJobLines(cl.runFile, &job, &error)) {
-        err << "cannot read the job file " << cl.runFile << ": " << error << "\n";
-        return false;
-    }
-    if (cl.fromLine > job.size()) {
-        err << "the job has only " << job.size() << " lines\n";
-        return false;
-    }
-    *resumed = gcode::buildResumeJob(job, cl.fromLine);
     *file = dir.filePath(QFileInfo(cl.runFile).fileName());
-    if (!dir.isValid() || !gcode::writeJobLines(*file, resumed->lines, &error)) {
-        err << "cannot write the resumed job: " << error << "\n";
+    QString error;
+    if (!dir.isValid()) {
+        err << "cannot write the resumed job: no temporary folder\n";
         return false;
     }
-    out << "resuming at line " << resumed->fromLine << " of " << job.size() << "\n";
+    if (!gcode::writeResumeJobFile(cl.runFile, cl.fromLine, *file, resumed, &error)) {
+        err << error << "\n";
+        return false;
+    }
+    if (resumed->fromLine > resumed->jobLines) {
+        err << "the job has only " << resumed->jobLines << " lines\n";
+        return false;
+    }
+    out << "resuming at line " << resumed->fromLine << " of " << resumed->jobLines << "\n";
     return true;
 }
 

@@ -42,11 +42,8 @@ public:
             m_out << "progress " << percent << "%\n";
             m_out.flush();
         });
-        QObject::connect(&com, &Jk_com::jobFinished, &m_loop, [this] { m_allSent = true; });
-        QObject::connect(&com, &Jk_com::shu_chu_zhuang_tai, &m_loop, [this](const QString &s) {
-            if (m_allSent && s.startsWith(QLatin1String("Idle")))
-                finish(HeadlessDone, QString());
-        });
+        QObject::connect(&com, &Jk_com::jobRan, &m_loop,
+                         [this] { finish(HeadlessDone, QString()); });
         QObject::connect(&com, &Jk_com::deviceFault, &m_loop, [this](const QString &line) {
             m_positionLost = true;
             fail(HeadlessMachineFault, QStringLiteral("controller reported: ") + line.trimmed());
@@ -151,7 +148,6 @@ private:
     bool m_positionLost = false;
     QEventLoop m_loop;
     QTimer m_silence;
-    bool m_allSent = false;
     int m_result = -1;
     QString m_reason;
 };

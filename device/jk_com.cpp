@@ -117,6 +117,7 @@ void Jk_com::shutDown()
     forgetStaleLines();
     m_stream->releaseResetHold();
     m_fileRunActive = false;
+    m_awaitingIdle = false;
     m_receivedLines.clear();
     m_handshakeDone = false;
     // Queued behind every write handed to the worker so far; the stale stream
@@ -195,8 +196,15 @@ void Jk_com::handleLine(const QString &line)
     case SerialLine::Status:
         m_machineMoving = lumitra::grbl::statusShowsMotion(line);
         checkReportFields(line);
-        emit shu_chu_zhuang_tai(lumitra::grbl::serialStatusText(line));
-        break;
+        {
+            const QString status = lumitra::grbl::serialStatusText(line);
+            emit shu_chu_zhuang_tai(status);
+            if (m_awaitingIdle && status.startsWith(QLatin1String("Idle"))) {
+                m_awaitingIdle = false;
+                emit jobRan();
+            }
+            break;
+        }
     case SerialLine::Version:
         if (!m_handshakeDone)
             completeHandshake();
@@ -335,6 +343,7 @@ void Jk_com::resetStream(bool writeReset)
     if (writeByte)
         writeRealTime(lumitra::grbl::kSoftReset);
     m_fileRunActive = false;
+    m_awaitingIdle = false;
 }
 
 void Jk_com::queueText(const QString &text)
@@ -378,6 +387,7 @@ void Jk_com::startFileRun()
     connect(reader, &QThread::finished, this, &Jk_com::onReaderFinished);
     m_reader = reader;
     m_fileRunActive = true;
+    m_awaitingIdle = false;
     m_readerDone = false;
     reader->start();
 
@@ -407,6 +417,7 @@ void Jk_com::checkJobFinished()
     if (!m_fileRunActive || !m_readerDone || !m_stream->drained())
         return;
     m_fileRunActive = false;
+    m_awaitingIdle = true;
     emit jobFinished();
 }
 

@@ -80,6 +80,8 @@ public:
     bool isLinked() const { return m_handshakeDone; }
     // A file run is streaming (from "yunxing" until jobFinished or a stop).
     bool jobRunning() const { return m_fileRunActive; }
+    // Every line answered, the machine not yet reported idle.
+    bool jobDraining() const { return m_awaitingIdle; }
 
     // Lines of the file run (1-based, counted from the file's first line): the
     // last one the controller has executed (every line up to it has run; see
@@ -125,8 +127,12 @@ signals:
     void deviceFault(const QString &line);
     // The port failed while open (unplugged) and was closed; the job stopped.
     void linkLost(const QString &reason);
-    // Every line of the file run was sent and acknowledged.
+    // Every line of the file run was sent and acknowledged ("ok": planned;
+    // the planner may still hold blocks to run).
     void jobFinished();
+    // After jobFinished, the first report of an idle machine: the whole file
+    // has run.
+    void jobRan();
     // The first status report after the handshake was read: a file run
     // started from now on turns the buffer field on when it is missing.
     void reportFieldsReady();
@@ -175,6 +181,7 @@ private:
     std::atomic_bool m_running{false};
     QPointer<ReadTxtThread> m_reader;
     bool m_fileRunActive = false;
+    bool m_awaitingIdle = false;  // jobFinished came, jobRan not yet
     bool m_machineMoving = false; // last status report showed motion
     bool m_laserOn = false;       // test fire on
     bool m_readerDone = false;

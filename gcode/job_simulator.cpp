@@ -56,8 +56,12 @@ bool JobSimulator::step(const QString &raw, Move *move)
         case 'G':
             if (v == 0)
                 m_rapid = true;
-            else if (v == 1)
+            else if (v == 1 || v == 2 || v == 3) // arcs burn too (drawn as their chord)
                 m_rapid = false;
+            else if (v == 20)
+                m_unit = 25.4;
+            else if (v == 21)
+                m_unit = 1.0;
             else if (v == 90)
                 m_absolute = true;
             else if (v == 91)
@@ -73,7 +77,7 @@ bool JobSimulator::step(const QString &raw, Move *move)
             m_power = v;
             break;
         case 'F':
-            m_feed = v;
+            m_feed = v * m_unit;
             break;
         case 'X':
             hasX = true;
@@ -90,6 +94,8 @@ bool JobSimulator::step(const QString &raw, Move *move)
     if (!hasX && !hasY)
         return false;
 
+    x *= m_unit;
+    y *= m_unit;
     QPointF to = m_pos;
     if (m_absolute) {
         if (hasX)

@@ -4,8 +4,9 @@
 #include <QPointF>
 #include <QString>
 
-// Follows a G-code job line by line the way the controller would (modal G0/G1,
-// G90/G91, S, F, M3/M4/M5) and reports every XY move. Used by the job preview
+// Follows a G-code job line by line the way the controller would (modal
+// G0/G1, G2/G3 as their chord, G20/G21, G90/G91, S, F, M3/M4/M5) and reports
+// every XY move. Used by the job preview
 // to draw what will burn and to estimate how long the job takes. Units: mm,
 // mm/min, seconds. Plain class, any thread.
 class JobSimulator
@@ -53,6 +54,7 @@ private:
     QPointF m_pos;
     bool m_rapid = true;
     bool m_absolute = true;
+    double m_unit = 1.0; // mm per programmed unit (G20: 25.4)
     bool m_laserOn = false;
     double m_power = 0.0;
     double m_feed = 0.0;

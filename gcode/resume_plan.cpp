@@ -1,9 +1,12 @@
 #include "resume_plan.h"
 
 #include "gcode_line_code.h"
+#include "job_simulator.h"
 
+#include <QBuffer>
 #include <QFile>
-#include <QRegularExpression>
+#include <QSaveFile>
+#include <algorithm>
 #include <cmath>
 
 namespace lumitra::gcode {
@@ -28,6 +31,54 @@ QString number(double v)
     return text;
 }
 
+struct Word
+{
+    char letter;
+    double value;
+};
+
+// The words of a line's code (capitals, comments gone), in order. A letter
+// without a readable number is skipped, as the controller would refuse it.
+void splitWords(const QString &code, QVector<Word> *words)
+{
+    words->clear();
+    const int n = code.size();
+    for (int i = 0; i < n;) {
+        const char letter = code.at(i).toLatin1();
+        ++i;
+        if (letter < 'A' || letter > 'Z')
+            continue;
+        while (i < n && code.at(i) == QLatin1Char(' '))
+            ++i;
+        const int start = i;
+        while (i < n
+               && (code.at(i).isDigit() || code.at(i) == QLatin1Char('.')
+                   || code.at(i) == QLatin1Char('-') || code.at(i) == QLatin1Char('+')))
+            ++i;
+        bool ok = false;
+        const double value = code.midRef(start, i - start).toDouble(&ok);
+        if (ok)
+            words->append({letter, value});
+    }
+}
+
+bool isMotionWord(const Word &w)
+{
+    return w.letter == 'G' && (w.value == 0 || w.value == 1 || w.value == 2 || w.value == 3);
+}
+
+bool isAxisWord(const Word &w)
+{
+    return w.letter == 'X' || w.letter == 'Y' || w.letter == 'Z';
+}
+
+// G10, G28, G30 and G92 take the axis words for themselves: no motion mode
+// may stand beside them.
+bool takesAxisWords(const Word &w)
+{
+    return w.letter == 'G' && (w.value == 10 || w.value == 28 || w.value == 30 || w.value == 92);
+}
+
 } // namespace
 
 bool ModalState::operator==(const ModalState &o) const
@@ -35,7 +86,7 @@ bool ModalState::operator==(const ModalState &o) const
     return motion == o.motion && absolute == o.absolute && inches == o.inches
            && spindle == o.spindle && near(power, o.power) && hasFeed == o.hasFeed
            && (!hasFeed || near(feed, o.feed)) && near(position.x(), o.position.x())
-           && near(position.y(), o.position.y());
+           && near(position.y(), o.position.y()) && movesZ == o.movesZ && near(z, o.z);
 }
 
 void ModalTracker::feed(const QString &raw)
@@ -44,16 +95,16 @@ void ModalTracker::feed(const QString &raw)
     if (line.isEmpty() || line.startsWith(QLatin1Char('$')))
         return; // system commands ("$H", "$J=") leave the parser state alone
 
-    static const QRegularExpression word(QStringLiteral("([A-Z])\\s*([-+]?\\d*\\.?\\d+)"));
-    bool hasX = false, hasY = false, setsOrigin = false;
-    double x = 0.0, y = 0.0;
+    thread_local QVector<Word> words;
+    splitWords(line, &words);
+    bool has[3] = {false, false, false}, setsOrigin = false;
+    double axis[3] = {0.0, 0.0, 0.0};
     ModalState &s = m_state;
-    for (auto it = word.globalMatch(line); it.hasNext();) {
-        const auto m = it.next();
-        const double v = m.captured(2).toDouble();
-        switch (m.captured(1).at(0).unicode()) {
+    for (const Word &w : qAsConst(words)) {
+        const double v = w.value;
+        switch (w.letter) {
         case 'G':
-            if (v == 0 || v == 1 || v == 2 || v == 3)
+            if (isMotionWord(w))
                 s.motion = int(v);
             else if (v == 90)
                 s.absolute = true;
@@ -84,12 +135,10 @@ void ModalTracker::feed(const QString &raw)
             s.hasFeed = true;
             break;
         case 'X':
-            hasX = true;
-            x = v;
-            break;
         case 'Y':
-            hasY = true;
-            y = v;
+        case 'Z':
+            has[w.letter - 'X'] = true;
+            axis[w.letter - 'X'] = v;
             break;
         default:
             break;
@@ -98,14 +147,13 @@ void ModalTracker::feed(const QString &raw)
     if (setsOrigin)
         return; // the work coordinates move, the head does not
     const double unit = s.inches ? 25.4 : 1.0;
-    if (s.absolute) {
-        if (hasX)
-            s.position.setX(x * unit);
-        if (hasY)
-            s.position.setY(y * unit);
-    } else {
-        s.position += QPointF(hasX ? x * unit : 0.0, hasY ? y * unit : 0.0);
-    }
+    double at[3] = {s.position.x(), s.position.y(), s.z};
+    for (int i = 0; i < 3; ++i)
+        if (has[i])
+            at[i] = s.absolute ? axis[i] * unit : at[i] + axis[i] * unit;
+    s.position = QPointF(at[0], at[1]);
+    s.z = at[2];
+    s.movesZ = s.movesZ || has[2];
 }
 
 ModalState modalStateBefore(const QStringList &job, int line)
@@ -121,14 +169,15 @@ QStringList resumePreamble(const ModalState &state)
 {
     QStringList lines;
     lines << QStringLiteral("M5 S0") << QStringLiteral("G90 G21");
-    lines
-        << QStringLiteral("G0 X%1 Y%2").arg(number(state.position.x()), number(state.position.y()));
+    QString move =
+        QStringLiteral("G0 X%1 Y%2").arg(number(state.position.x()), number(state.position.y()));
+    if (state.movesZ)
+        move += QStringLiteral(" Z") + number(state.z);
+    lines << move;
     if (state.inches)
         lines << QStringLiteral("G20");
-    QString motion = state.motion == 0 ? QStringLiteral("G0") : QStringLiteral("G1");
     if (state.hasFeed)
-        motion += QStringLiteral(" F") + number(state.feed);
-    lines << motion;
+        lines << QStringLiteral("G0 F") + number(state.feed);
     if (!state.absolute)
         lines << QStringLiteral("G91");
     const QString power = QStringLiteral("S") + number(state.power);
@@ -146,61 +195,89 @@ int ResumeJob::jobLineOf(int resumedLine) const
     return fromLine + resumedLine - preambleLines - 1;
 }
 
-ResumeJob buildResumeJob(const QStringList &job, int fromLine)
+bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info)
 {
     ResumeJob r;
-    r.fromLine = qBound(1, fromLine, job.size() + 1);
-    r.lines = resumePreamble(modalStateBefore(job, r.fromLine));
-    r.preambleLines = r.lines.size();
-    r.lines += job.mid(r.fromLine - 1);
-    // An arc mode cannot be set without an arc: the first resumed line names it
-    // when it relies on the modal G2/G3.
-    const ModalState state = modalStateBefore(job, r.fromLine);
-    if ((state.motion == 2 || state.motion == 3) && r.lines.size() > r.preambleLines) {
-        static const QRegularExpression motionWord(QStringLiteral("G0*[0-3](?![0-9.])"),
-                                                   QRegularExpression::CaseInsensitiveOption);
-        QString &first = r.lines[r.preambleLines];
-        if (!first.contains(motionWord))
-            first.prepend(QStringLiteral("G%1 ").arg(state.motion));
+    r.fromLine = qMax(1, fromLine);
+    ModalTracker tracker;
+    QString line;
+    int read = 0;
+    while (read < r.fromLine - 1 && readJobLine(job, &line)) {
+        tracker.feed(line);
+        ++read;
     }
+    const ModalState state = tracker.state();
+    bool ok = true;
+    const QStringList preamble = resumePreamble(state);
+    for (const QString &l : preamble)
+        ok = ok && out.write(l.toLatin1() + '\n') >= 0;
+    r.preambleLines = preamble.size();
+
+    // The rest, byte for byte, but for the job's motion mode named on the
+    // first line that moves (unless that line, or one before it, names its own).
+    bool motionPending = state.motion != 0;
+    QVector<Word> words;
+    while (ok && !job.atEnd()) {
+        QByteArray bytes = job.readLine();
+        while (bytes.endsWith('\n') || bytes.endsWith('\r'))
+            bytes.chop(1);
+        ++read;
+        if (motionPending) {
+            const QString code = lumitra::gcodeLineCode(QString::fromLatin1(bytes));
+            if (!code.startsWith(QLatin1Char('$'))) {
+                splitWords(code, &words);
+                const bool namesMotion = std::any_of(words.begin(), words.end(), isMotionWord);
+                const bool moves = std::any_of(words.begin(), words.end(), isAxisWord)
+                                   && std::none_of(words.begin(), words.end(), takesAxisWords);
+                if (!namesMotion && moves)
+                    bytes.prepend(QStringLiteral("G%1 ").arg(state.motion).toLatin1());
+                motionPending = !namesMotion && !moves;
+            }
+        }
+        bytes.append('\n');
+        ok = out.write(bytes) == bytes.size();
+    }
+    r.jobLines = read;
+    r.fromLine = qMin(r.fromLine, read + 1);
+    if (info)
+        *info = r;
+    return ok;
+}
+
+bool writeResumeJobFile(const QString &jobPath, int fromLine, const QString &outPath,
+                        ResumeJob *info, QString *error)
+{
+    QFile job(jobPath);
+    if (!job.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("cannot read %1: %2").arg(jobPath, job.errorString());
+        return false;
+    }
+    QSaveFile out(outPath);
+    if (!out.open(QIODevice::WriteOnly) || !writeResumeJob(job, fromLine, out, info)
+        || !out.commit()) {
+        if (error)
+            *error = QStringLiteral("cannot write %1: %2").arg(outPath, out.errorString());
+        return false;
+    }
+    return true;
+}
+
+ResumeJob buildResumeJob(const QStringList &job, int fromLine)
+{
+    QByteArray text;
+    for (const QString &line : job)
+        text += line.toUtf8() + '\n';
+    QBuffer in(&text);
+    in.open(QIODevice::ReadOnly);
+    QByteArray written;
+    QBuffer out(&written);
+    out.open(QIODevice::WriteOnly);
+    ResumeJob r;
+    writeResumeJob(in, qBound(1, fromLine, job.size() + 1), out, &r);
+    r.lines = QString::fromUtf8(written).split(QLatin1Char('\n'));
+    r.lines.removeLast(); // after the last line's end
     return r;
-}
-
-bool readJobLines(const QString &path, QStringList *lines, QString *error)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    lines->clear();
-    while (!file.atEnd()) {
-        QByteArray line = file.readLine();
-        while (line.endsWith('\n') || line.endsWith('\r'))
-            line.chop(1);
-        lines->append(QString::fromLocal8Bit(line));
-    }
-    return true;
-}
-
-bool writeJobLines(const QString &path, const QStringList &lines, QString *error)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    QByteArray bytes;
-    for (const QString &line : lines)
-        bytes += line.toLocal8Bit() + '\n';
-    if (file.write(bytes) != bytes.size()) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    return true;
 }
 
 } // namespace lumitra::gcode

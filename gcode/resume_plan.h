@@ -25,6 +25,10 @@ struct ModalState
     // taken to start at 0,0 (an axis the job has not yet moved absolutely and
     // only moved by relative moves is counted from 0 too).
     QPointF position;
+    // The third axis (a rotary's turn, in its own units, or a height), once
+    // the job has moved it; counted from 0 like X and Y.
+    double z = 0.0;
+    bool movesZ = false;
 
     bool operator==(const ModalState &o) const;
     bool operator!=(const ModalState &o) const { return !(*this == o); }
@@ -34,6 +38,9 @@ struct ModalState
 class ModalTracker
 {
 public:
+    ModalTracker() = default;
+    // Goes on from `state` (a state saved part-way through a job).
+    explicit ModalTracker(const ModalState &state) : m_state(state) {}
     void feed(const QString &line);
     const ModalState &state() const { return m_state; }
 
@@ -48,31 +55,45 @@ ModalState modalStateBefore(const QStringList &job, int line);
 // the laser off until the head is there:
 //   M5 S0                laser off (no power either)
 //   G90 G21              absolute millimetres for the move
-//   G0 X.. Y..           to the resume point, laser off
+//   G0 X.. Y.. [Z..]     to the resume point, laser off (Z when the job moved
+//                        it: the rotary's turn, or the height)
 //   G20                  when the job is in inches
-//   G1 F.. / G0 F..      the job's motion mode and feed (G1 for G2/G3, which
-//                        cannot stand without an arc: buildResumeJob puts the
-//                        G2/G3 in front of the first resumed line instead)
+//   G0 F..               the job's feed
 //   G91                  when the job moves relatively
-//   M3 S.. / M4 S.. / S..  the laser mode and power; in laser mode the beam
-//                        only fires with the next G1/G2/G3 move
+//   M3 S.. / M4 S.. / S..  the laser mode and power, set in G0, where the
+//                        controller keeps the beam off
+// The job's G1/G2/G3 mode is not set here: entering G1 without a move turns
+// a constant-power (M3) beam on where the head stands, and G2/G3 cannot stand
+// without an arc. The resumed job names it on its first line that moves.
 QStringList resumePreamble(const ModalState &state);
 
-// A resumed job: the preamble, then lines `fromLine` .. end of `job`.
+// A resumed job: the preamble, then lines `fromLine` .. end of the job.
 struct ResumeJob
 {
-    QStringList lines;
     int preambleLines = 0;
     int fromLine = 1;
-    // The job line a line of `lines` (1-based) stands for; fromLine - 1 for a
-    // preamble line (the job has reached that far when it runs).
+    int jobLines = 0; // lines of the whole job
+    // The resumed job's lines; filled by buildResumeJob only (the file
+    // writers stream and keep no lines).
+    QStringList lines;
+    // The job line a line of the resumed job (1-based) stands for;
+    // fromLine - 1 for a preamble line (the job has reached that far when it
+    // runs).
     int jobLineOf(int resumedLine) const;
 };
-ResumeJob buildResumeJob(const QStringList &job, int fromLine);
 
-// Reads a job file into lines (line ends cut); false when it cannot be read.
-bool readJobLines(const QString &path, QStringList *lines, QString *error);
-// Writes `lines`, each ended by "\n"; false with the reason when it fails.
-bool writeJobLines(const QString &path, const QStringList &lines, QString *error);
+// Streams the job from `job` (its current position on) and writes the resumed
+// job from `fromLine` (1 .. lines + 1) to `out`, holding one line at a time:
+// any size of job takes the same memory. `info` gets the mapping and the
+// job's length; a `fromLine` past the job's end writes the preamble alone
+// (info->fromLine > info->jobLines tells). False when writing fails.
+bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info);
+// The same from file to file; false with the reason ("cannot read …" or
+// "cannot write …") when a file fails.
+bool writeResumeJobFile(const QString &jobPath, int fromLine, const QString &outPath,
+                        ResumeJob *info, QString *error);
+// The resumed job of a job held in memory, lines included (fromLine is
+// brought within 1 .. lines + 1).
+ResumeJob buildResumeJob(const QStringList &job, int fromLine);
 
 } // namespace lumitra::gcode

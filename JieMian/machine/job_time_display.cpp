@@ -28,7 +28,7 @@ void JobTimeDisplay::watchLink()
         return;
     m_watched = com;
     connect(com, &Jk_com::diao_ke_jin_du, this, &JobTimeDisplay::onProgress);
-    connect(com, &Jk_com::jobFinished, this, &JobTimeDisplay::stopShowing);
+    connect(com, &Jk_com::jobRan, this, &JobTimeDisplay::stopShowing);
     connect(com, &Jk_com::deviceFault, this, &JobTimeDisplay::stopShowing);
     connect(com, &Jk_com::linkLost, this, &JobTimeDisplay::stopShowing);
     if (m_panel)

@@ -4,7 +4,7 @@
 #include "resume_plan.h"
 #include "ui_resume_dialog.h"
 
-#include <QBuffer>
+#include <QFile>
 #include <QPainter>
 
 namespace {
@@ -12,43 +12,28 @@ constexpr int kPreviewSide = 320; // pixels, longer side
 constexpr double kMarginMm = 2.0;
 } // namespace
 
-ResumeDialog::ResumeDialog(const QStringList &job, int line, bool positionLost, QWidget *parent)
-    : QDialog(parent), m_ui(new Ui::ResumeDialog)
+ResumeDialog::ResumeDialog(const lumitra::gcode::JobStateIndex &job, int line, bool positionLost,
+                           QWidget *parent)
+    : QDialog(parent), m_ui(new Ui::ResumeDialog), m_job(job)
 {
     m_ui->setupUi(this);
     setModal(false);
     m_ui->warning_Lab->setVisible(positionLost);
 
-    // Head position before every line, and the job's extent.
-    lumitra::gcode::ModalTracker tracker;
-    m_before.reserve(job.size() + 1);
-    double left = 0.0, right = 0.0, bottom = 0.0, top = 0.0; // the job starts at 0,0
-    for (const QString &l : job) {
-        m_before.append(tracker.state().position);
-        tracker.feed(l);
-        const QPointF p = tracker.state().position;
-        left = qMin(left, p.x());
-        right = qMax(right, p.x());
-        bottom = qMin(bottom, p.y());
-        top = qMax(top, p.y());
-    }
-    m_before.append(tracker.state().position);
-    m_area = QRectF(left, bottom, right - left, top - bottom)
-                 .adjusted(-kMarginMm, -kMarginMm, kMarginMm, kMarginMm);
+    m_area = job.extent().adjusted(-kMarginMm, -kMarginMm, kMarginMm, kMarginMm);
     m_scale = kPreviewSide / qMax(m_area.width(), m_area.height());
-
-    QByteArray bytes = job.join(QLatin1Char('\n')).toLocal8Bit();
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    const JobPreview preview = renderJobPreview(buffer, m_area, m_scale, kPreviewSide);
-    m_preview = preview.image;
+    // Drawn from the file as it streams by: a job of any size fits.
+    QFile file(job.path());
+    if (file.open(QIODevice::ReadOnly))
+        m_preview = renderJobPreview(file, m_area, m_scale, kPreviewSide).image;
     if (m_preview.isNull()) {
         m_preview = QImage(kPreviewSide, kPreviewSide, QImage::Format_ARGB32_Premultiplied);
         m_preview.fill(Qt::white);
     }
 
-    m_ui->line_Box->setMaximum(qMax(1, job.size()));
-    m_ui->total_Lab->setText(QStringLiteral("/ %1").arg(job.size()));
+    const int lines = job.lineCount();
+    m_ui->line_Box->setMaximum(qMax(1, lines));
+    m_ui->total_Lab->setText(QStringLiteral("/ %1").arg(lines));
     m_ui->title_Lab->setText(tr("作业中断。从第 %1 行继续?").arg(line));
     connect(m_ui->line_Box, QOverload<int>::of(&QSpinBox::valueChanged), this,
             &ResumeDialog::updateMarker);
@@ -78,8 +63,7 @@ void ResumeDialog::setLine(int line)
 
 QPointF ResumeDialog::resumePoint() const
 {
-    const int i = qBound(0, line() - 1, m_before.size() - 1);
-    return m_before.isEmpty() ? QPointF() : m_before.at(i);
+    return m_job.stateBefore(line()).position;
 }
 
 QPointF ResumeDialog::markerInPreview() const

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "job_state_index.h"
+
 #include <QDialog>
 #include <QImage>
 #include <QPointF>
 #include <QRectF>
-#include <QVector>
 #include <memory>
 
 namespace Ui {
@@ -21,8 +22,10 @@ class ResumeDialog : public QDialog
     Q_OBJECT
 
 public:
-    // `job`: the job's lines; `line`: the line suggested (first not executed).
-    ResumeDialog(const QStringList &job, int line, bool positionLost, QWidget *parent = nullptr);
+    // `job`: the job file's index; `line`: the line suggested (first not
+    // executed).
+    ResumeDialog(const lumitra::gcode::JobStateIndex &job, int line, bool positionLost,
+                 QWidget *parent = nullptr);
     ~ResumeDialog() override;
 
     int line() const;
@@ -41,7 +44,7 @@ private:
     void updateMarker();
 
     std::unique_ptr<Ui::ResumeDialog> m_ui;
-    QVector<QPointF> m_before; // head position before each line
+    lumitra::gcode::JobStateIndex m_job;
     QImage m_preview;
     QImage m_shown;
     QRectF m_area; // job area shown (mm, Y up)

@@ -10,6 +10,8 @@
 #include "ui_machine_panel.h"
 #include "wifi_link_controller.h"
 
+#include <QDateTime>
+#include <QDebug>
 #include <QFileInfo>
 #include <QTimer>
 
@@ -36,7 +38,8 @@ void ResumeOffer::watchLink()
         return;
     m_watched = com;
     connect(com, &Jk_com::diao_ke_jin_du, this, &ResumeOffer::onProgress);
-    connect(com, &Jk_com::jobFinished, this, &ResumeOffer::onFinished);
+    // Not at the last "ok": the planner may still hold 15 blocks to run.
+    connect(com, &Jk_com::jobRan, this, &ResumeOffer::onFinished);
     connect(com, &Jk_com::deviceFault, this, [this] { interrupted(true); });
     connect(com, &Jk_com::linkLost, this, [this] { interrupted(false); });
 }
@@ -88,6 +91,9 @@ void ResumeOffer::onProgress(int percent)
 void ResumeOffer::jobStarted(const QString &path)
 {
     m_jobActive = true;
+    // An offer still open is for the job before this one.
+    if (m_dialog)
+        m_dialog->close();
     if (path != m_running) {
         m_running = path;
         m_original = path;
@@ -129,10 +135,10 @@ void ResumeOffer::offer(int next, bool positionLost, const QString &warning)
 {
     m_positionLost = positionLost;
     m_warning = warning;
-    QStringList job;
-    QString error;
-    if (!lumitra::gcode::readJobLines(m_original, &job, &error) || next > job.size())
+    lumitra::gcode::JobStateIndex job;
+    if (!job.build(m_original) || next > job.lineCount())
         return;
+    m_offeredJob = jobStamp(m_original);
     if (m_dialog)
         delete m_dialog;
     m_dialog = new ResumeDialog(job, next, positionLost, m_dialogParent);
@@ -146,6 +152,12 @@ void ResumeOffer::offer(int next, bool positionLost, const QString &warning)
     m_dialog->show();
 }
 
+QString ResumeOffer::jobStamp(const QString &path)
+{
+    const QFileInfo info(path);
+    return QStringLiteral("%1 %2").arg(info.size()).arg(info.lastModified().toMSecsSinceEpoch());
+}
+
 bool ResumeOffer::resumeFrom(int line)
 {
     if (!m_machine)
@@ -157,17 +169,20 @@ bool ResumeOffer::resumeFrom(int line)
         offer(line, m_positionLost, m_warning);
         return false;
     }
-    QStringList job;
-    QString error;
-    if (!lumitra::gcode::readJobLines(m_original, &job, &error) || line < 1 || line > job.size()
-        || !m_dir.isValid()) {
-        lumitra::show_notice(m_dialogParent, tr("无法继续作业。"));
+    // The window writes every job to the same file: one written since the
+    // offer is another job, and its lines are not the ones offered.
+    if (jobStamp(m_original) != m_offeredJob) {
+        lumitra::show_notice(m_dialogParent, tr("作业文件已被新的作业替换,无法继续。"));
         return false;
     }
-    const lumitra::gcode::ResumeJob r = lumitra::gcode::buildResumeJob(job, line);
     const QString path =
         m_dir.filePath(QStringLiteral("resume-%1").arg(QFileInfo(m_original).fileName()));
-    if (!lumitra::gcode::writeJobLines(path, r.lines, &error)) {
+    lumitra::gcode::ResumeJob r;
+    QString error;
+    if (line < 1 || !m_dir.isValid()
+        || !lumitra::gcode::writeResumeJobFile(m_original, line, path, &r, &error)
+        || r.fromLine > r.jobLines) {
+        qDebug() << "resume failed:" << error;
         lumitra::show_notice(m_dialogParent, tr("无法继续作业。"));
         return false;
     }

@@ -68,6 +68,8 @@ private:
     void offer(int next, bool positionLost, const QString &warning = QString());
     // The running job's line `fileLine` in the original job.
     int originalLine(int fileLine) const;
+    // Size and time of the file at `path`: it changes when a new job is written.
+    static QString jobStamp(const QString &path);
 
     QPointer<MachineController> m_machine;
     QPointer<QWidget> m_dialogParent;
@@ -80,6 +82,7 @@ private:
     QString m_warning;           // its own warning, when not the reset's
     QString m_running;           // file the link runs
     QString m_original;          // the job it stands for
+    QString m_offeredJob;        // jobStamp of m_original when offered
     int m_preambleLines = 0;
     int m_firstJobLine = 1;
     QTemporaryDir m_dir; // resumed jobs

@@ -11,7 +11,8 @@ QString gcodeLineCode(const QString &raw)
     if (semicolon >= 0)
         line.truncate(semicolon);
     static const QRegularExpression parens(QStringLiteral("\\([^)]*\\)"));
-    line.remove(parens);
+    if (line.contains(QLatin1Char('('))) // most job lines have none: no regex for them
+        line.remove(parens);
     return line.trimmed();
 }
 

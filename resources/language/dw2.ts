@@ -1817,6 +1817,10 @@ Fortfahren?</translation>
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>Die Verbindung zur Maschine ist getrennt: Sie hat vielleicht keinen Strom mehr oder arbeitet noch. Prüfen Sie zuerst, dass sie steht, und referenzieren Sie sie dann oder setzen Sie den Nullpunkt neu.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>Die Auftragsdatei wurde durch einen neuen Auftrag ersetzt; Fortsetzen nicht möglich.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@ Continuer&#xa0;?</translation>
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>La connexion à la machine est perdue&#xa0;: elle a peut-être perdu l&apos;alimentation ou travaille encore. Vérifiez d&apos;abord qu&apos;elle est arrêtée, puis faites la prise d&apos;origine ou redéfinissez l&apos;origine.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>Le fichier de la tâche a été remplacé par une nouvelle tâche ; impossible de reprendre.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>기기와의 연결이 끊어졌습니다. 기기의 전원이 꺼졌거나 아직 작업 중일 수 있습니다. 먼저 기기가 멈췄는지 확인한 다음 원점 복귀하거나 원점을 다시 설정하세요.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>작업 파일이 새 작업으로 바뀌어 이어서 할 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@ Continuar?</translation>
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>A ligação à máquina foi perdida: ela pode ter ficado sem energia ou ainda estar a trabalhar. Confirme primeiro que parou e depois faça o homing ou defina a origem de novo.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>O ficheiro do trabalho foi substituído por um novo trabalho; não é possível continuar.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>マシンとの接続が切れました。電源が切れたか、まだ動作中の可能性があります。まず停止していることを確認してから、原点復帰するか原点を設定し直してください。</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>ジョブファイルが新しいジョブに置き換えられたため、再開できません。</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>Se perdió la conexión con la máquina: puede haberse quedado sin alimentación o seguir trabajando. Compruebe primero que está detenida y luego haga el homing o vuelva a fijar el origen.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>El archivo del trabajo fue reemplazado por un trabajo nuevo; no se puede reanudar.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1817,6 +1817,10 @@ Continuare?</translation>
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>La connessione con la macchina si è interrotta: potrebbe essere senza alimentazione o ancora in funzione. Verificate prima che sia ferma, poi eseguite l&apos;homing o reimpostate l&apos;origine.</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>Il file del lavoro è stato sostituito da un nuovo lavoro; impossibile riprendere.</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

@@ -1146,7 +1146,7 @@ Continue?</translation>
     </message>
     <message>
         <source>尚未读到机器的设置，按控制器出厂设置估算；连接机器后更准确</source>
-        <translation>The machine's settings have not been read yet: estimated with the controller's factory settings; more accurate once a machine is connected</translation>
+        <translation>The machine&apos;s settings have not been read yet: estimated with the controller&apos;s factory settings; more accurate once a machine is connected</translation>
     </message>
 </context>
 <context>
@@ -1816,6 +1816,10 @@ Continue?</translation>
     <message>
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>The connection to the machine was lost: it may have lost power or may still be running. Make sure it has stopped, then home it or set the origin again.</translation>
+    </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>The job file has been replaced by a new job; it cannot be resumed.</translation>
     </message>
 </context>
 <context>

@@ -1817,6 +1817,10 @@
         <source>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</source>
         <translation>与设备的连接已断开:设备可能已断电,也可能仍在运行。请先确认设备已停止,再归位或重新设置原点。</translation>
     </message>
+    <message>
+        <source>作业文件已被新的作业替换,无法继续。</source>
+        <translation>作业文件已被新的作业替换,无法继续。</translation>
+    </message>
 </context>
 <context>
     <name>SdFileManager</name>

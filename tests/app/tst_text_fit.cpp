@@ -49,6 +49,7 @@
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <QTranslator>
 #include <QtTest>
@@ -58,6 +59,20 @@
 using namespace lumitra;
 
 namespace {
+
+// A three-line job file for the resume dialog.
+lumitra::gcode::JobStateIndex smallJob()
+{
+    static QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("job.nc"));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("G0X1Y1\nG1X20Y5S500F1000\nG1X1Y1\n");
+    file.close();
+    lumitra::gcode::JobStateIndex job;
+    job.build(path);
+    return job;
+}
 
 // Room a text needs beyond its own advance is left to the widget's size hint,
 // which the style computes with the same font; one pixel of rounding is
@@ -288,15 +303,10 @@ private slots:
              }},
             {"OffsetDialog", [] { return new OffsetDialog; }},
             // After an alarm: the longest form, with the warning shown.
-            {"ResumeDialog",
-             [] {
-                 return new ResumeDialog(QStringList{"G0X1Y1", "G1X20Y5S500F1000", "G1X1Y1"}, 2,
-                                         true);
-             }},
+            {"ResumeDialog", [] { return new ResumeDialog(smallJob(), 2, true); }},
             {"ResumeDialogLinkLost",
              [] {
-                 auto *d =
-                     new ResumeDialog(QStringList{"G0X1Y1", "G1X20Y5S500F1000", "G1X1Y1"}, 2, true);
+                 auto *d = new ResumeDialog(smallJob(), 2, true);
                  // The longest warning: a WiFi board out of reach.
                  d->setWarning(QCoreApplication::translate(
                      "ResumeOffer",

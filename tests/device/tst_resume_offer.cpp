@@ -31,6 +31,8 @@ private slots:
     void offerAfterAnInterruption_data();
     void offerAfterAnInterruption();
     void timeLeftWhileRunning();
+    void stopWhileTheLastLinesRun();
+    void offerIsForItsOwnJob();
 
 private:
     bool connectTo(GrblFake &fake);
@@ -107,8 +109,11 @@ bool TestResumeOffer::connectTo(GrblFake &fake)
 QString TestResumeOffer::writeJob(const QStringList &lines)
 {
     const QString path = m_dir.filePath("job.nc");
-    QString error;
-    return lumitra::gcode::writeJobLines(path, lines, &error) ? path : QString();
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return QString();
+    file.write((lines.join('\n') + '\n').toUtf8());
+    return path;
 }
 
 void TestResumeOffer::dialog_data()
@@ -125,7 +130,9 @@ void TestResumeOffer::dialog()
     QFETCH(int, line);
     QFETCH(bool, positionLost);
     QFETCH(QPointF, point);
-    ResumeDialog d(job(), line, positionLost);
+    lumitra::gcode::JobStateIndex index;
+    QVERIFY(index.build(writeJob(job())));
+    ResumeDialog d(index, line, positionLost);
     d.show();
     QVERIFY(QTest::qWaitForWindowExposed(&d));
     QCOMPARE(d.form().line_Box->value(), line);
@@ -207,12 +214,11 @@ void TestResumeOffer::offerAfterAnInterruption()
     sent.erase(std::remove_if(sent.begin(), sent.end(),
                               [](const QString &l) { return l.startsWith('$'); }),
                sent.end());
-    const QStringList preamble =
-        lumitra::gcode::resumePreamble(lumitra::gcode::modalStateBefore(lines, suggested));
-    const int start = sent.indexOf(preamble.first());
+    // The state at that line, then the rest of the job.
+    const QStringList resumedJob = lumitra::gcode::buildResumeJob(lines, suggested).lines;
+    const int start = sent.indexOf(resumedJob.first());
     QVERIFY(start >= 0);
-    QCOMPARE(sent.mid(start, preamble.size()), preamble);
-    QCOMPARE(sent.mid(start + preamble.size()), lines.mid(suggested - 1));
+    QCOMPARE(sent.mid(start), resumedJob);
     QVERIFY(!offer.dialog());
 }
 
@@ -238,8 +244,81 @@ void TestResumeOffer::timeLeftWhileRunning()
     for (int a = before; a <= after; ++a)
         possible << QString("剩余 ") + formatRunTime(display.timeline().remainingSeconds(a, 0.0));
     QVERIFY2(possible.contains(display.text()), qPrintable(display.text()));
+    // Shown while the last lines still run after their "ok"; gone once the
+    // machine is idle.
     QVERIFY(finished.wait(30000));
+    QVERIFY(!display.text().isEmpty());
+    QSignalSpy ran(m_controller->link(), &Jk_com::jobRan);
+    QVERIFY(ran.wait(30000));
     QVERIFY(display.text().isEmpty());
+}
+
+// Every line answered is not every line run: a stop while the planner still
+// holds the last moves offers to resume them.
+void TestResumeOffer::stopWhileTheLastLinesRun()
+{
+    GrblFake::Options o;
+    o.motionMsPerLine = 300;
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    m_controller->link()->setPollInterval(50);
+    ResumeOffer offer(m_controller.get(), m_panel.get(), m_panel.get());
+    // No trailer that waits for the buffer: the last "ok" comes while the
+    // moves still queue in the planner.
+    QStringList lines{"G90 G21", "M4 S500", "G1 F1500"};
+    for (int i = 1; i <= 10; ++i)
+        lines << QString("X%1 Y%2").arg(i * 2).arg(i % 2);
+    QSignalSpy finished(m_controller->link(), &Jk_com::jobFinished);
+    m_controller->runJob(writeJob(lines));
+    QVERIFY(finished.wait(10000));
+    QVERIFY(m_controller->link()->jobDraining());
+    QVERIFY(m_controller->link()->lastExecutedLine() < lines.size());
+    m_panel->form().stop_Btn->click();
+    QTRY_VERIFY_WITH_TIMEOUT(offer.dialog(), 5000);
+    QCOMPARE(offer.dialog()->line(), m_controller->link()->lastExecutedLine() + 1);
+    QVERIFY(offer.dialog()->line() <= lines.size());
+}
+
+// An offer left open belongs to its job: a new job closes it, and a job file
+// written over since the offer is not resumed.
+void TestResumeOffer::offerIsForItsOwnJob()
+{
+    QStringList messages;
+    lumitra::set_message_handler([&messages](const lumitra::MessageRequest &r) {
+        messages << r.message;
+        return 0;
+    });
+    GrblFake::Options o;
+    o.motionMsPerLine = 15;
+    GrblFake fake(o);
+    QVERIFY(connectTo(fake));
+    m_controller->link()->setPollInterval(50);
+    ResumeOffer offer(m_controller.get(), m_panel.get(), m_panel.get());
+    const QString path = writeJob(job());
+    m_controller->runJob(path);
+    QTRY_VERIFY_WITH_TIMEOUT(m_controller->link()->lastExecutedLine() > 20, 10000);
+    m_panel->form().stop_Btn->click();
+    QTRY_VERIFY_WITH_TIMEOUT(offer.dialog(), 10000);
+    const int line = offer.dialog()->line();
+    QTRY_VERIFY(!m_controller->busy());
+
+    // Another job written to the same file: the offer's line would be its.
+    QStringList other{"G90 G21", "M4 S900", "G1 F1500"};
+    for (int i = 0; i < 60; ++i)
+        other << QString("X%1 Y%2").arg(60 + i % 2).arg(58 + i * 0.2);
+    QTest::qWait(20); // a file time of its own
+    writeJob(other);
+    QSignalSpy resumed(&offer, &ResumeOffer::resumed);
+    QVERIFY(!offer.resumeFrom(line));
+    QCOMPARE(resumed.count(), 0);
+    QVERIFY(!messages.isEmpty());
+
+    // Running it closes the offer still open.
+    QVERIFY(offer.dialog());
+    QSignalSpy ran(m_controller->link(), &Jk_com::jobRan);
+    m_controller->runJob(path);
+    QTRY_VERIFY_WITH_TIMEOUT(!offer.dialog(), 5000);
+    QVERIFY(ran.wait(20000));
 }
 
 QTEST_MAIN(TestResumeOffer)

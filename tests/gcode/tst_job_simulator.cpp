@@ -54,6 +54,10 @@ private slots:
             << QByteArray("m4 ; X99\ng1 x3 y4 s10 f100 ; Y77\n") << 5.0 << 0.0;
         QTest::newRow("jogs move the head") << QByteArray("$J=G91X3Y4F1000\n") << 0.0 << 5.0;
         QTest::newRow("no axis no move") << QByteArray("M4\nG1S500F100\nF200\n") << 0.0 << 0.0;
+        // An arc after a rapid burns (its chord: 10 mm).
+        QTest::newRow("arc burns")
+            << QByteArray("M4 S500 F100\nG0X0Y0\nG2X10Y0I5J0\n") << 10.0 << 0.0;
+        QTest::newRow("inches") << QByteArray("G20\nM4\nG1X1S100F4\nG21\nX0\n") << 50.8 << 0.0;
     }
     void modalWords()
     {

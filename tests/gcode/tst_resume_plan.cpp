@@ -1,6 +1,10 @@
+#include "gcode_line_code.h"
 #include "job_simulator.h"
+#include "job_state_index.h"
 #include "resume_plan.h"
 
+#include <QRandomGenerator>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using lumitra::gcode::ModalState;
@@ -19,6 +23,8 @@ private slots:
     void resumeEveryLine_data();
     void resumeEveryLine();
     void lineMapping();
+    void resumesAFileAsItStands();
+    void indexKnowsEveryLine();
 };
 
 namespace {
@@ -47,6 +53,16 @@ const QStringList kArcJob{"G21",
                           "G1 X10 Y30",
                           "G3 X10 Y10 I0 J-10",
                           "M5"};
+
+// A rotary job: the cylinder turns with Z, rows run relatively.
+const QStringList kRotaryJob{
+    "G90 G21",   "M4 S0", "G0X10Z72.000S0", "G91",      "G1X5S500F1500", "X5", "G0Z0.720",
+    "G1X-5S500", "X-5",   "G0Z0.720",       "G1X5S500", "G90",           "M5", "G0X0Z0"};
+
+// Arcs continued by modal lines, with a comment and a power-only line
+// between them.
+const QStringList kArcCommentJob{"G21 G90",    "M4 S500", "G1 F600",      "G2 X10 Y0 I5 J0",
+                                 "(next arc)", "S400",    "X0 Y0 I-5 J0", "M5"};
 
 // In inches.
 const QStringList kInchJob{"G20", "G90", "M3 S300", "G0 X1 Y1", "G1 F40", "X2 Y1", "M5"};
@@ -129,18 +145,22 @@ void TestResumePlan::preamble_data()
     QTest::addColumn<int>("line");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("vector, dynamic power")
-        << kVectorJob << 7 << QStringList{"M5 S0", "G90 G21", "G0 X20 Y20", "G1 F1200", "M4 S500"};
+        << kVectorJob << 7 << QStringList{"M5 S0", "G90 G21", "G0 X20 Y20", "G0 F1200", "M4 S500"};
     QTest::newRow("relative raster row")
         << kRasterJob << 12
-        << QStringList{"M5 S0", "G90 G21", "G0 X5.7 Y5.1", "G1 F3000", "G91", "M4 S350"};
+        << QStringList{"M5 S0", "G90 G21", "G0 X5.7 Y5.1", "G0 F3000", "G91", "M4 S350"};
     QTest::newRow("inches, constant power")
         << kInchJob << 6
-        << QStringList{"M5 S0", "G90 G21", "G0 X25.4 Y25.4", "G20", "G1 F40", "M3 S300"};
+        << QStringList{"M5 S0", "G90 G21", "G0 X25.4 Y25.4", "G20", "G0 F40", "M3 S300"};
     QTest::newRow("arc mode") << kArcJob << 8
-                              << QStringList{"M5 S0", "G90 G21", "G0 X30 Y20", "G1 F400",
+                              << QStringList{"M5 S0", "G90 G21", "G0 X30 Y20", "G0 F400",
                                              "M3 S300"};
     QTest::newRow("start of the job")
-        << kVectorJob << 1 << QStringList{"M5 S0", "G90 G21", "G0 X0 Y0", "G0", "S0"};
+        << kVectorJob << 1 << QStringList{"M5 S0", "G90 G21", "G0 X0 Y0", "S0"};
+    // A rotary job turns the cylinder with Z: the turn is restored too.
+    QTest::newRow("rotary") << kRotaryJob << 9
+                            << QStringList{"M5 S0",    "G90 G21", "G0 X15 Y0 Z72.72",
+                                           "G0 F1500", "G91",     "M4 S500"};
 }
 
 void TestResumePlan::preamble()
@@ -156,6 +176,9 @@ void TestResumePlan::resumeEveryLine_data()
     QTest::newRow("vector, absolute, M4") << kVectorJob;
     QTest::newRow("raster rows, G91, M4") << kRasterJob;
     QTest::newRow("arcs, M3") << kArcJob;
+    QTest::newRow("rotary, G91, M4") << kRotaryJob;
+    QTest::newRow("arcs across a comment") << kArcCommentJob;
+    QTest::newRow("inches, M3") << kInchJob;
 }
 
 // From every line: the preamble brings even a machine in an unlucky state to
@@ -188,20 +211,31 @@ void TestResumePlan::resumeEveryLine()
             reached.hasFeed = false;
             reached.feed = 0.0;
         }
-        if (want.motion == 2 || want.motion == 3) // named on the first resumed line
-            reached.motion = reached.motion == 1 ? want.motion : -1;
+        // The preamble stays in G0, where no beam fires; the job's own mode
+        // is named on the first resumed line that moves.
+        QCOMPARE(reached.motion, 0);
+        reached.motion = want.motion;
         QVERIFY2(reached == want, qPrintable(QString("line %1").arg(n)));
         QVERIFY(samePoint(sim.position(), want.position));
 
-        // The rest of the job follows, word for word but for an arc mode.
+        // The rest of the job follows word for word, but for the motion mode
+        // in front of the first line that moves without naming its own.
+        static const QRegularExpression motionWord("G0*[0-3](?![0-9.])");
+        static const QRegularExpression axisWord("[XYZ]");
+        bool named = want.motion == 0;
         for (int i = r.preambleLines; i < r.lines.size(); ++i) {
             const QString original = job.at(n - 1 + i - r.preambleLines);
-            QVERIFY(r.lines.at(i) == original || r.lines.at(i) == "G2 " + original
-                    || r.lines.at(i) == "G3 " + original);
+            const QString code = lumitra::gcodeLineCode(original);
+            if (named || (!code.contains(motionWord) && !code.contains(axisWord))) {
+                QCOMPARE(r.lines.at(i), original);
+            } else if (code.contains(motionWord)) {
+                QCOMPARE(r.lines.at(i), original);
+                named = true;
+            } else {
+                QCOMPARE(r.lines.at(i), QString("G%1 ").arg(want.motion) + original);
+                named = true;
+            }
         }
-        if (n <= job.size() && (want.motion == 2 || want.motion == 3)
-            && !job.at(n - 1).contains(QRegularExpression("G[0-3](?![0-9])")))
-            QCOMPARE(r.lines.at(r.preambleLines), QString("G%1 ").arg(want.motion) + job.at(n - 1));
 
         // Burn geometry (the simulator runs arcs as chords, the same on both sides).
         QList<Burn> expected;
@@ -227,6 +261,91 @@ void TestResumePlan::lineMapping()
     QCOMPARE(r.jobLineOf(r.preambleLines + 1), 12);
     QCOMPARE(r.jobLineOf(r.lines.size()), kRasterJob.size());
     QCOMPARE(r.lines.size() - r.preambleLines, kRasterJob.size() - 11);
+}
+
+// A file resumes byte for byte whatever its line ends (CRLF, none after the
+// last line) and whatever its comments hold; a line past the end writes the
+// preamble alone and says so.
+void TestResumePlan::resumesAFileAsItStands()
+{
+    QTemporaryDir dir;
+    const QString in = dir.filePath("job.nc"), out = dir.filePath("resumed.nc");
+    QFile file(in);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("G21 G90\r\nM4 S0\r\n; 图层 1\r\nG0 X5 Y5\r\nG1 X10 S300 F900\r\nX20 (end)");
+    file.close();
+    lumitra::gcode::ResumeJob r;
+    QString error;
+    QVERIFY2(lumitra::gcode::writeResumeJobFile(in, 3, out, &r, &error), qPrintable(error));
+    QCOMPARE(r.jobLines, 6);
+    QCOMPARE(r.fromLine, 3);
+    QFile resumed(out);
+    QVERIFY(resumed.open(QIODevice::ReadOnly));
+    const QByteArray expected = "M5 S0\nG90 G21\nG0 X0 Y0\nM4 S0\n; 图层 1\nG0 X5 Y5\n"
+                                "G1 X10 S300 F900\nX20 (end)\n";
+    QCOMPARE(resumed.readAll(), expected);
+    QCOMPARE(r.preambleLines, 4);
+
+    QVERIFY(lumitra::gcode::writeResumeJobFile(in, 99, out, &r, &error));
+    QVERIFY(r.fromLine > r.jobLines);
+    QVERIFY(!lumitra::gcode::writeResumeJobFile(dir.filePath("missing.nc"), 1, out, &r, &error));
+    QVERIFY(error.startsWith("cannot read"));
+}
+
+// The index answers for every line what replaying the whole job gives, across
+// many of its checkpoints, and knows the job's extent.
+void TestResumePlan::indexKnowsEveryLine()
+{
+    QStringList job{"G21", "M4 S0", "G0 X-3 Y2"};
+    QRandomGenerator random(7);
+    for (int i = 0; i < 3 * lumitra::gcode::JobStateIndex::kStride; ++i) {
+        switch (random.bounded(5)) {
+        case 0:
+            job << QString("G91 G1 X%1 S%2 F%3")
+                       .arg(random.bounded(20) / 10.0)
+                       .arg(random.bounded(1000))
+                       .arg(1000 + random.bounded(5000));
+            break;
+        case 1:
+            job << QString("G90 G0 X%1 Y%2").arg(random.bounded(100)).arg(random.bounded(80));
+            break;
+        case 2:
+            job << QString("Y%1 Z%2").arg(random.bounded(10) / 10.0).arg(random.bounded(360));
+            break;
+        case 3:
+            job << (random.bounded(2) ? "M3" : "M5");
+            break;
+        default:
+            job << "; comment";
+        }
+    }
+    QTemporaryDir dir;
+    const QString path = dir.filePath("job.nc");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write((job.join('\n') + '\n').toUtf8());
+    file.close();
+
+    lumitra::gcode::JobStateIndex index;
+    QVERIFY(index.build(path));
+    QCOMPARE(index.lineCount(), job.size());
+    ModalTracker tracker;
+    double left = 0, right = 0, bottom = 0, top = 0;
+    for (int line = 1; line <= job.size() + 1; ++line) {
+        if (line % 97 == 0 || line % lumitra::gcode::JobStateIndex::kStride <= 1
+            || line > job.size())
+            QVERIFY2(index.stateBefore(line) == tracker.state(), qPrintable(QString::number(line)));
+        if (line <= job.size()) {
+            tracker.feed(job.at(line - 1));
+            const QPointF p = tracker.state().position;
+            left = qMin(left, p.x());
+            right = qMax(right, p.x());
+            bottom = qMin(bottom, p.y());
+            top = qMax(top, p.y());
+        }
+    }
+    QCOMPARE(index.extent(), QRectF(left, bottom, right - left, top - bottom));
+    QVERIFY(!index.build(dir.filePath("missing.nc")));
 }
 
 QTEST_GUILESS_MAIN(TestResumePlan)

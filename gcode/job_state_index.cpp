@@ -1,0 +1,55 @@
+#include "job_state_index.h"
+
+#include "job_simulator.h"
+
+#include <QFile>
+
+namespace lumitra::gcode {
+
+bool JobStateIndex::build(const QString &path, QString *error)
+{
+    *this = JobStateIndex();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = file.errorString();
+        return false;
+    }
+    m_path = path;
+    ModalTracker tracker;
+    double left = 0.0, right = 0.0, bottom = 0.0, top = 0.0; // the job starts at 0,0
+    QString line;
+    for (;;) {
+        if (m_lines % kStride == 0)
+            m_checkpoints.append({file.pos(), tracker.state()});
+        if (!readJobLine(file, &line))
+            break;
+        ++m_lines;
+        tracker.feed(line);
+        const QPointF p = tracker.state().position;
+        left = qMin(left, p.x());
+        right = qMax(right, p.x());
+        bottom = qMin(bottom, p.y());
+        top = qMax(top, p.y());
+    }
+    m_extent = QRectF(left, bottom, right - left, top - bottom);
+    return true;
+}
+
+ModalState JobStateIndex::stateBefore(int line) const
+{
+    const int index = qBound(0, line - 1, m_lines); // lines before it
+    const int k = qMin(index / kStride, int(m_checkpoints.size()) - 1);
+    if (k < 0)
+        return ModalState();
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(m_checkpoints.at(k).offset))
+        return ModalState();
+    ModalTracker tracker(m_checkpoints.at(k).state);
+    QString text;
+    for (int i = k * kStride; i < index && readJobLine(file, &text); ++i)
+        tracker.feed(text);
+    return tracker.state();
+}
+
+} // namespace lumitra::gcode
