@@ -12,24 +12,43 @@ constexpr int kPreviewSide = 320; // pixels, longer side
 constexpr double kMarginMm = 2.0;
 } // namespace
 
+namespace {
+QRectF previewArea(const lumitra::gcode::JobStateIndex &job)
+{
+    return job.extent().adjusted(-kMarginMm, -kMarginMm, kMarginMm, kMarginMm);
+}
+double previewScale(const QRectF &area)
+{
+    return kPreviewSide / qMax(area.width(), area.height());
+}
+} // namespace
+
+QImage ResumeDialog::renderPreview(const lumitra::gcode::JobStateIndex &job)
+{
+    // Drawn from the file as it streams by: a job of any size fits.
+    const QRectF area = previewArea(job);
+    QFile file(job.path());
+    QImage image;
+    if (file.open(QIODevice::ReadOnly))
+        image = renderJobPreview(file, area, previewScale(area), kPreviewSide).image;
+    if (image.isNull()) {
+        image = QImage(kPreviewSide, kPreviewSide, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+    }
+    return image;
+}
+
 ResumeDialog::ResumeDialog(const lumitra::gcode::JobStateIndex &job, int line, bool positionLost,
-                           QWidget *parent)
+                           QWidget *parent, const QImage &preview)
     : QDialog(parent), m_ui(new Ui::ResumeDialog), m_job(job)
 {
     m_ui->setupUi(this);
     setModal(false);
     m_ui->warning_Lab->setVisible(positionLost);
 
-    m_area = job.extent().adjusted(-kMarginMm, -kMarginMm, kMarginMm, kMarginMm);
-    m_scale = kPreviewSide / qMax(m_area.width(), m_area.height());
-    // Drawn from the file as it streams by: a job of any size fits.
-    QFile file(job.path());
-    if (file.open(QIODevice::ReadOnly))
-        m_preview = renderJobPreview(file, m_area, m_scale, kPreviewSide).image;
-    if (m_preview.isNull()) {
-        m_preview = QImage(kPreviewSide, kPreviewSide, QImage::Format_ARGB32_Premultiplied);
-        m_preview.fill(Qt::white);
-    }
+    m_area = previewArea(job);
+    m_scale = previewScale(m_area);
+    m_preview = preview.isNull() ? renderPreview(job) : preview;
 
     const int lines = job.lineCount();
     m_ui->line_Box->setMaximum(qMax(1, lines));

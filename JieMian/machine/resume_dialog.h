@@ -24,8 +24,12 @@ class ResumeDialog : public QDialog
 public:
     // `job`: the job file's index; `line`: the line suggested (first not
     // executed).
+    // `preview`: renderPreview(job) when made already (it takes a while for
+    // a large job), else the dialog draws it.
     ResumeDialog(const lumitra::gcode::JobStateIndex &job, int line, bool positionLost,
-                 QWidget *parent = nullptr);
+                 QWidget *parent = nullptr, const QImage &preview = QImage());
+    // The job drawn for the dialog; any thread.
+    static QImage renderPreview(const lumitra::gcode::JobStateIndex &job);
     ~ResumeDialog() override;
 
     int line() const;

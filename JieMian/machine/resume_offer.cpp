@@ -13,7 +13,9 @@
 #include <QDateTime>
 #include <QDebug>
 #include <QFileInfo>
+#include <QThread>
 #include <QTimer>
+#include <memory>
 
 ResumeOffer::ResumeOffer(MachineController *machine, MachinePanel *panel, QWidget *dialogParent,
                          QObject *parent)
@@ -91,7 +93,9 @@ void ResumeOffer::onProgress(int percent)
 void ResumeOffer::jobStarted(const QString &path)
 {
     m_jobActive = true;
-    // An offer still open is for the job before this one.
+    // An offer still open, or still being prepared, is for the job before
+    // this one.
+    ++m_offerRun;
     if (m_dialog)
         m_dialog->close();
     if (path != m_running) {
@@ -135,13 +139,32 @@ void ResumeOffer::offer(int next, bool positionLost, const QString &warning)
 {
     m_positionLost = positionLost;
     m_warning = warning;
-    lumitra::gcode::JobStateIndex job;
-    if (!job.build(m_original) || next > job.lineCount())
-        return;
     m_offeredJob = jobStamp(m_original);
+    // Reading and drawing a job of millions of lines takes seconds: done on a
+    // thread of its own, the window stays responsive. A newer offer or a new
+    // job makes this one stale.
+    const quint64 run = ++m_offerRun;
+    auto prepared = std::make_shared<PreparedOffer>();
+    const QString path = m_original;
+    QThread *thread = QThread::create([prepared, path] {
+        prepared->ok = prepared->job.build(path);
+        if (prepared->ok)
+            prepared->preview = ResumeDialog::renderPreview(prepared->job);
+    });
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, this, [this, run, prepared, next, positionLost, warning] {
+        if (run == m_offerRun && prepared->ok && next <= prepared->job.lineCount())
+            showOffer(*prepared, next, positionLost, warning);
+    });
+    thread->start();
+}
+
+void ResumeOffer::showOffer(const PreparedOffer &prepared, int next, bool positionLost,
+                            const QString &warning)
+{
     if (m_dialog)
         delete m_dialog;
-    m_dialog = new ResumeDialog(job, next, positionLost, m_dialogParent);
+    m_dialog = new ResumeDialog(prepared.job, next, positionLost, m_dialogParent, prepared.preview);
     if (!warning.isEmpty())
         m_dialog->setWarning(warning);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "job_state_index.h"
 #include "resume_plan.h"
 
+#include <QImage>
 #include <QObject>
 #include <QPointer>
 #include <QTemporaryDir>
@@ -64,8 +66,17 @@ private:
     void onStop();
     // A run of `path` started: a new job unless it is the resumed one.
     void jobStarted(const QString &path);
-    // Shows the dialog with `next` (a line of the original job) suggested.
+    // Shows the dialog with `next` (a line of the original job) suggested,
+    // once the job is read.
     void offer(int next, bool positionLost, const QString &warning = QString());
+    struct PreparedOffer
+    {
+        lumitra::gcode::JobStateIndex job;
+        QImage preview;
+        bool ok = false;
+    };
+    void showOffer(const PreparedOffer &prepared, int next, bool positionLost,
+                   const QString &warning);
     // The running job's line `fileLine` in the original job.
     int originalLine(int fileLine) const;
     // Size and time of the file at `path`: it changes when a new job is written.
@@ -83,6 +94,7 @@ private:
     QString m_running;           // file the link runs
     QString m_original;          // the job it stands for
     QString m_offeredJob;        // jobStamp of m_original when offered
+    quint64 m_offerRun = 0;      // the offer being prepared; others are stale
     int m_preambleLines = 0;
     int m_firstJobLine = 1;
     QTemporaryDir m_dir; // resumed jobs
