@@ -6,17 +6,63 @@
 
 namespace lumitra {
 
+int pwmLevel(double s, const PowerSteps &steps)
+{
+    // In single precision, as the controller computes it.
+    const int top = qMax(2, steps.steps - 1);
+    const float rpm = float(s), rpmMin = float(steps.sMin), rpmMax = float(steps.sMax);
+    if (rpm <= 0.0f)
+        return 0;
+    if (rpmMin >= rpmMax || rpm >= rpmMax)
+        return top;
+    if (rpm <= rpmMin)
+        return 1;
+    const float gradient = float(top - 1) / (rpmMax - rpmMin);
+    return qMin(top, int(std::floor((rpm - rpmMin) * gradient)) + 1);
+}
+
+namespace {
+
+int trailingZeros(long v)
+{
+    int zeros = 0;
+    for (; v != 0 && v % 10 == 0; v /= 10)
+        ++zeros;
+    return zeros;
+}
+
+} // namespace
+
 int quantisedPower(double s, const PowerSteps &steps)
 {
-    if (!(s > 0))
+    const int level = pwmLevel(s, steps);
+    if (level == 0)
         return 0;
-    const double span = steps.sMax - steps.sMin;
-    const int top = qMax(1, steps.steps - 1);
-    if (!(span > 0))
-        return int(std::lround(qMax(s, steps.sMax)));
-    const double step = span / top;
-    const int level = qBound(0, int(std::lround((s - steps.sMin) / step)), top);
-    return int(std::lround(steps.sMin + level * step));
+    const int top = qMax(2, steps.steps - 1);
+    if (level == top)
+        return int(qMax(1.0, std::ceil(steps.sMax - 1e-9)));
+    if (level == 1 && steps.sMin >= 1.0 && pwmLevel(std::round(steps.sMin), steps) == 1)
+        return int(std::lround(steps.sMin));
+    // The S that falls on this level: from sMin + (level - 1) x width up to
+    // the next level. The lowest level takes every S up to sMin as well;
+    // sMin itself ("the least power") is the one written for it.
+    const double width = (steps.sMax - steps.sMin) / (top - 1);
+    const double low = steps.sMin + (level - 1) * width;
+    const double high = steps.sMin + level * width;
+    const double middle = (low + high) / 2;
+    // One whole S for every level, so that greys on the same level merge: the
+    // roundest one (800 rather than 801), then the one nearest the middle.
+    long best = 0;
+    for (long c = qMax(1L, long(std::floor(low))); c <= long(std::ceil(high)); ++c) {
+        if (pwmLevel(double(c), steps) != level)
+            continue;
+        if (best == 0 || trailingZeros(c) > trailingZeros(best)
+            || (trailingZeros(c) == trailingZeros(best)
+                && std::fabs(c - middle) < std::fabs(best - middle)))
+            best = c;
+    }
+    // A range narrower than the levels has levels no whole S reaches.
+    return best > 0 ? int(best) : int(qMax(1L, std::lround(s)));
 }
 
 std::array<int, 256> greyPowerTable(double power, const PowerSteps &steps)

@@ -3,9 +3,10 @@
 //
 // Raster lines are many and short, so their words are written as short as the
 // controller reads them: no trailing zeros (X224.1, X224, never "-0") and S as
-// a whole number. GRBL turns S into one of `steps` PWM levels spread evenly
-// from sMin ($31) to sMax ($30); greys whose power falls on the same level
-// burn alike and are written with the same S. Pure functions, reentrant.
+// a whole number. GRBL turns S into one of its PWM values: 0 for S0, 1 up to
+// sMin ($31), then 254 levels spread evenly up to 255 at sMax ($30); greys
+// whose power falls on the same level burn alike and are written with the
+// same S. Pure functions, reentrant.
 #pragma once
 
 #include "gcode_number.h"
@@ -21,11 +22,17 @@ struct PowerSteps
 {
     double sMin = 0.0;    // S of the lowest PWM level ($31)
     double sMax = 1000.0; // S of full PWM ($30)
-    int steps = 256;      // PWM levels from sMin to sMax
+    int steps = 256;      // PWM values, off included (0 .. 255)
 };
 
-// The whole-number S that makes the controller produce the same PWM level as
-// `s`: 0 stays 0 (laser off), anything else falls on the nearest level.
+// The PWM value the controller sets for `s` (0 off, 1 .. steps - 1), worked
+// out as GRBL 1.1 does: floor((s - sMin) x 254 / (sMax - sMin)) + 1 between
+// the two, 1 at or below sMin, 255 at or above sMax, in single precision.
+int pwmLevel(double s, const PowerSteps &steps);
+
+// The whole-number S that makes the controller produce the same PWM value as
+// `s`: 0 stays 0 (laser off); every level has one S (the roundest in it), so
+// greys on the same level are written alike.
 int quantisedPower(double s, const PowerSteps &steps);
 
 // S for every grey level (0 black .. 255 white) of a layer burning at `power`

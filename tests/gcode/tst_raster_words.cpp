@@ -3,6 +3,7 @@
 #include "gcode_number.h"
 #include "raster_words.h"
 
+#include <QHash>
 #include <QtTest>
 #include <cmath>
 #include <cstring>
@@ -16,6 +17,7 @@ class TestRasterWords : public QObject
 private slots:
     void quantisedPowerSteps_data();
     void quantisedPowerSteps();
+    void everySKeepsItsLevel();
     void greyTableMergesEqualOutput();
     void shortNumbers_data();
     void shortNumbers();
@@ -33,12 +35,15 @@ void TestRasterWords::quantisedPowerSteps_data()
     QTest::newRow("negative is off") << -5.0 << 0.0 << 1000.0 << 0;
     QTest::newRow("full") << 1000.0 << 0.0 << 1000.0 << 1000;
     QTest::newRow("above full") << 1500.0 << 0.0 << 1000.0 << 1000;
-    QTest::newRow("one step") << 3.0 << 0.0 << 1000.0 << 4; // 1000/255 = 3.92
-    QTest::newRow("half step rounds down") << 1.9 << 0.0 << 1000.0 << 0;
-    QTest::newRow("layer 80 %") << 800.0 << 0.0 << 1000.0 << 800;    // level 204 = 800.0
-    QTest::newRow("between steps") << 481.0 << 0.0 << 1000.0 << 482; // level 123 = 482.35
+    // Levels are 1000/254 = 3.94 S wide; any S above 0 fires at least PWM 1.
+    QTest::newRow("first level") << 3.0 << 0.0 << 1000.0 << 2;
+    QTest::newRow("the least power still fires") << 0.4 << 0.0 << 1000.0 << 2;
+    QTest::newRow("layer 80 %") << 800.0 << 0.0 << 1000.0 << 800; // level 204: 799.2 .. 803.1
+    QTest::newRow("layer 80 %, off by one") << 802.0 << 0.0 << 1000.0 << 800;
+    QTest::newRow("between steps") << 481.0 << 0.0 << 1000.0 << 482; // level 123: 480.3 .. 484.3
     QTest::newRow("raised minimum") << 100.0 << 255.0 << 510.0 << 255;
-    QTest::newRow("raised minimum, in range") << 300.3 << 255.0 << 510.0 << 300;
+    // Levels 1.004 S wide from 255: 300.3 is on level 46 (300.18 .. 301.18).
+    QTest::newRow("raised minimum, in range") << 300.3 << 255.0 << 510.0 << 301;
 }
 
 void TestRasterWords::quantisedPowerSteps()
@@ -51,15 +56,41 @@ void TestRasterWords::quantisedPowerSteps()
     steps.sMin = sMin;
     steps.sMax = sMax;
     QCOMPARE(quantisedPower(s, steps), expected);
-    // What is written is on a step already: it stays where it is.
+    // The controller sets the same PWM value for what is written, and what is
+    // written stays as it is.
+    QCOMPARE(pwmLevel(expected, steps), pwmLevel(s, steps));
     QCOMPARE(quantisedPower(expected, steps), expected);
+}
+
+// Over whole ranges and in between: what is written sets the controller's
+// PWM value of the S asked for, one S stands for each level, and more power
+// is never written as less.
+void TestRasterWords::everySKeepsItsLevel()
+{
+    const QList<PowerSteps> ranges{{0.0, 1000.0, 256}, {255.0, 510.0, 256}, {0.0, 255.0, 256},
+                                   {10.0, 12000.0, 256}};
+    for (const PowerSteps &steps : ranges) {
+        QHash<int, int> sOfLevel;
+        int previous = 0;
+        for (double s = 0.0; s <= steps.sMax + 5.0; s += 0.25) {
+            const int written = quantisedPower(s, steps);
+            const QString where = QString("S%1 in %2..%3").arg(s).arg(steps.sMin).arg(steps.sMax);
+            QVERIFY2(pwmLevel(written, steps) == pwmLevel(s, steps), qPrintable(where));
+            QVERIFY2(written >= previous, qPrintable(where));
+            previous = written;
+            const int level = pwmLevel(s, steps);
+            QVERIFY2(sOfLevel.value(level, written) == written, qPrintable(where));
+            sOfLevel.insert(level, written);
+        }
+        QCOMPARE(sOfLevel.size(), 256); // off and every PWM value
+    }
 }
 
 void TestRasterWords::greyTableMergesEqualOutput()
 {
     // At 30 % only 78 of the 256 PWM levels are in reach: greys share them.
     const std::array<int, 256> table = greyPowerTable(300.0, PowerSteps());
-    QCOMPARE(table[0], 302); // level 77 = 301.96
+    QCOMPARE(table[0], 300); // level 77: 299.2 .. 303.1
     QCOMPARE(table[255], 0);
     int distinct = 1;
     for (int grey = 1; grey < 256; ++grey) {
