@@ -255,8 +255,7 @@ void ExecutionTracker::statusReport(const QString &report)
     if (state != QLatin1String("Run") && state != QLatin1String("Hold")
         && state != QLatin1String("Idle"))
         return; // Alarm, Door, Sleep, ...: nothing to learn about the job
-    const int free = lumitra::grbl::blocksFree(report);
-    settle(free < 0 ? kPlannerBlocks : qMax(0, kPlannerBlocks - free));
+    settle(lumitra::grbl::blocksToRun(report, kPlannerBlocks));
 }
 
 void ExecutionTracker::settle(int queuedBlocks)
@@ -279,6 +278,13 @@ void ExecutionTracker::settle(int queuedBlocks)
 }
 
 namespace lumitra::grbl {
+
+int blocksToRun(const QString &report, int plannerBlocks)
+{
+    const int free = blocksFree(report);
+    const int queued = free < 0 ? plannerBlocks : qBound(0, plannerBlocks - free, plannerBlocks);
+    return report.startsWith(QLatin1String("<Idle")) ? queued : queued + kSegmentBlocks;
+}
 
 int blocksFree(const QString &report)
 {

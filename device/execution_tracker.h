@@ -8,9 +8,11 @@
 // GRBL answers "ok" once a line is parsed and its motion is in the planner
 // buffer (15 usable blocks in GRBL 1.1); the motion runs later. A status report
 // with the buffer field "Bf:<free blocks>,<free bytes>" says how many blocks
-// are still queued: q = 15 - free, the running block included. The lines that
-// produced the last q blocks among the acknowledged lines are not done yet;
-// every acknowledged line before the first of them is.
+// are still queued: q = 15 - free, the running block included, and while the
+// machine runs up to kSegmentBlocks more that have left the planner for the
+// step segment buffer. The lines that produced the last q (+ 5) blocks among
+// the acknowledged lines are not done yet; every acknowledged line before the
+// first of them is.
 //
 // Lines that produce no block: G90/G91, G20/G21, F, S (laser mode), comments,
 // empty lines, G92, a move to where the head already is, a move shorter than
@@ -124,6 +126,15 @@ private:
 namespace lumitra::grbl {
 // Free planner blocks in a status report's "Bf:" field; -1 without one.
 int blocksFree(const QString &report);
+// While the machine runs, the controller takes a block out of the planner
+// (and counts it free) once its last step segment is prepared, up to five
+// segments before the motors get there: so many short blocks may still be to
+// run beyond those "Bf:" counts. An idle machine prepares nothing.
+constexpr int kSegmentBlocks = 5;
+// Blocks a report says may still be to run: the queued planner blocks (all
+// `plannerBlocks` without a "Bf:" field), and kSegmentBlocks more unless the
+// machine is idle.
+int blocksToRun(const QString &report, int plannerBlocks);
 // The $10 value that keeps the report's position kind (MPos or WPos) and adds
 // the buffer field.
 int statusMaskWithBuffer(const QString &report);

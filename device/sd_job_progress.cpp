@@ -79,7 +79,7 @@ bool SdJobProgress::statusReport(const QString &report)
         return false;
     // Percent, free blocks and position of one report belong together.
     m_percent = m.captured(1).toDouble();
-    m_blocksFree = lumitra::grbl::blocksFree(report);
+    m_blocksToRun = lumitra::grbl::blocksToRun(report, kPlannerBlocks);
     static const QRegularExpression field(QStringLiteral("(WPos|MPos):(-?[\\d.]+),(-?[\\d.]+)"));
     bool work = false, machine = false;
     QPointF wpos, mpos;
@@ -102,7 +102,7 @@ bool SdJobProgress::statusReport(const QString &report)
 void SdJobProgress::clearReports()
 {
     m_percent = -1.0;
-    m_blocksFree = -1;
+    m_blocksToRun = kPlannerBlocks + lumitra::grbl::kSegmentBlocks;
     m_hasPosition = false;
     m_hasOffset = false;
 }
@@ -204,8 +204,7 @@ int SdJobProgress::resumeLineByBuffer() const
     const qint64 parsed = qint64(std::floor(low)) - kReceiveBytes;
     // Lines before this one have surely been parsed in full.
     const int firstUnparsed = lineAtByte(parsed);
-    const int queued = m_blocksFree < 0 ? kPlannerBlocks
-                                        : qBound(0, kPlannerBlocks - m_blocksFree, kPlannerBlocks);
+    const int queued = m_blocksToRun;
     if (queued == 0)
         return qMin(firstUnparsed, m_lines);
     int seen = 0;

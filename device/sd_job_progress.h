@@ -18,7 +18,8 @@
 //   - every byte before (percent - 0.01) % of the file, less the 127 bytes a
 //     receive buffer may hold, has surely been parsed;
 //   - of the lines parsed, the last (15 - free) lines that surely make a
-//     planner block may not have run yet (all 15 without a "Bf:" field);
+//     planner block may not have run yet (all 15 without a "Bf:" field), and
+//     while the machine runs 5 more (lumitra::grbl::kSegmentBlocks);
 //   - so every line before the first of those has run.
 // The head's position in that report narrows it down: the block running then
 // holds the position, so the earliest line from there up to the last line the
@@ -93,8 +94,8 @@ private:
     QVector<ExecutionTracker::ParserModel> m_markModels;
     QVector<bool> m_markArcs;
     double m_stepX = 0.1, m_stepY = 0.1;
-    double m_percent = -1.0;    // last running report's percent
-    int m_blocksFree = -1;      // and its free blocks (-1: not reported)
+    double m_percent = -1.0; // last running report's percent
+    int m_blocksToRun = kPlannerBlocks + lumitra::grbl::kSegmentBlocks; // and its blocks to run
     bool m_hasPosition = false; // and the head's position (work coordinates)
     QPointF m_position;
     bool m_hasOffset = false; // the last work coordinate offset reported (WCO)

@@ -78,34 +78,41 @@ void TestExecutionTracker::settle_data()
     QTest::addColumn<QStringList>("events");
     QTest::addColumn<int>("executed");
     QTest::addColumn<int>("acknowledged");
-    const QStringList moves{"G1X1F600", "X2", "X3", "X4", "X5"};
+    const QStringList moves{"G1X1F600", "X2", "X3", "X4", "X5", "X6", "X7", "X8", "X9", "X10"};
+    // While it runs, 5 blocks may have left the planner for the step segments
+    // without having run.
     const QString run = "<Run|MPos:1.000,0.000,0.000|Bf:%1,128|FS:600,0>";
-    QTest::newRow("planner empty") << moves << QStringList{"send", "ack 5", run.arg(15)} << 5 << 5;
+    QTest::newRow("planner empty, segments left")
+        << moves << QStringList{"send", "ack 10", run.arg(15)} << 5 << 10;
     QTest::newRow("two blocks queued")
-        << moves << QStringList{"send", "ack 5", run.arg(13)} << 3 << 5;
+        << moves << QStringList{"send", "ack 10", run.arg(13)} << 3 << 10;
     QTest::newRow("answers after the report do not count")
-        << moves << QStringList{"send", "ack 3", run.arg(14), "ack 5"} << 2 << 5;
+        << moves << QStringList{"send", "ack 8", run.arg(14), "ack 10"} << 2 << 10;
     QTest::newRow("modal lines between blocks count once the block before ran")
-        << QStringList{"G1X1F600", "F100", "G1X2", "S5", "G1X3"}
-        << QStringList{"send", "ack 5", run.arg(14)} << 4 << 5;
+        << QStringList{"G1X1F600", "F100", "G1X2", "S5", "G1X3", "X4", "X5", "X6", "X7", "X8"}
+        << QStringList{"send", "ack 10", run.arg(14)} << 4 << 10;
     QTest::newRow("a move to where the head is makes no block")
-        << QStringList{"G1X1F600", "G1X1", "G1X2"} << QStringList{"send", "ack 3", run.arg(13)} << 0
-        << 3;
+        << QStringList{"G1X1F600", "G1X1", "G1X2", "X3", "X4", "X5", "X6", "X7"}
+        << QStringList{"send", "ack 8", run.arg(13)} << 0 << 8;
     QTest::newRow("more blocks queued than answered lines (an arc being planned)")
         << moves << QStringList{"send", "ack 2", run.arg(5)} << 0 << 2;
     QTest::newRow("no buffer field: a full planner is assumed")
-        << moves << QStringList{"send", "ack 5", "<Run|MPos:1.000,0.000,0.000|FS:600,0>"} << 0 << 5;
+        << moves << QStringList{"send", "ack 10", "<Run|MPos:1.000,0.000,0.000|FS:600,0>"} << 0
+        << 10;
     QTest::newRow("idle with blocks not yet started")
-        << moves << QStringList{"send", "ack 5", "<Idle|MPos:0.000,0.000,0.000|Bf:12,128|FS:0,0>"}
-        << 2 << 5;
+        << moves << QStringList{"send", "ack 10", "<Idle|MPos:0.000,0.000,0.000|Bf:12,128|FS:0,0>"}
+        << 7 << 10;
+    QTest::newRow("idle and empty: all has run")
+        << moves << QStringList{"send", "ack 10", "<Idle|MPos:0.000,0.000,0.000|Bf:15,128|FS:0,0>"}
+        << 10 << 10;
     QTest::newRow("never goes back")
-        << moves << QStringList{"send", "ack 5", run.arg(15), run.arg(10)} << 5 << 5;
+        << moves << QStringList{"send", "ack 10", run.arg(15), run.arg(10)} << 5 << 10;
     QTest::newRow("alarm report and freeze change nothing")
-        << moves << QStringList{"send",      "ack 4",
+        << moves << QStringList{"send",      "ack 9",
                                 run.arg(13), "<Alarm|MPos:0.000,0.000,0.000|Bf:15,128|FS:0,0>",
-                                "freeze",    "ack 5",
+                                "freeze",    "ack 10",
                                 run.arg(15)}
-        << 2 << 4;
+        << 2 << 9;
 }
 
 void TestExecutionTracker::settle()

@@ -116,15 +116,19 @@ void TestSdJobProgress::resumeLineByHand()
 
     // Half read (1600 bytes): surely parsed are the bytes before
     // 49.99 % of 3200 = 1599, less 127 in the receive buffer: 1472, the start
-    // of line 185. Of lines 1 .. 184, the last 5 may be queued.
+    // of line 185. Of lines 1 .. 184, the last 5 may be queued, and 5 more
+    // may be in the step segments of the running machine.
     p.statusReport("<Run|MPos:0,0,0|Bf:10,0|SD:50.00,/001.nc>");
     QCOMPARE(p.currentLine(), 201);
-    QCOMPARE(p.resumeLine(), 180);
-    // Without the buffer field the planner counts as full: 15 lines back.
+    QCOMPARE(p.resumeLine(), 175);
+    // Without the buffer field the planner counts as full: 15 + 5 lines back.
     p.statusReport("<Run|MPos:0,0,0|SD:50.00,/001.nc>");
-    QCOMPARE(p.resumeLine(), 170);
-    // An empty planner: everything parsed has run.
+    QCOMPARE(p.resumeLine(), 165);
+    // An empty planner while running: the segments' 5 lines back.
     p.statusReport("<Run|MPos:0,0,0|Bf:15,127|SD:50.00,/001.nc>");
+    QCOMPARE(p.resumeLine(), 180);
+    // Idle and empty: everything parsed has run.
+    p.statusReport("<Idle|MPos:0,0,0|Bf:15,127|SD:50.00,/001.nc>");
     QCOMPARE(p.resumeLine(), 185);
     // Too little read to be sure of anything.
     p.statusReport("<Run|MPos:0,0,0|Bf:15,127|SD:3.00,/001.nc>");
@@ -144,11 +148,11 @@ void TestSdJobProgress::positionNarrowsTheResumeLine()
     SdJobProgress p;
     QVERIFY(p.index(write(job("G0X0Y0\n"))));
     QCOMPARE(p.size(), qint64(2800));
-    // 50 % read: the buffer alone says line 177 (as by hand above, 7-byte
+    // 50 % read: the buffer alone says line 172 (as by hand above, 7-byte
     // lines); read at most through line 201. The head at X 190.5 is on line
     // 192's move (X190 -> X191).
     p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
-    QCOMPARE(p.resumeLineByBuffer(), 177);
+    QCOMPARE(p.resumeLineByBuffer(), 172);
     QCOMPARE(p.resumeLine(), 192);
     // Machine position with the work offset seen in an earlier report.
     p.clearReports();
@@ -165,17 +169,17 @@ void TestSdJobProgress::positionNarrowsTheResumeLine()
     p.clearReports();
     p.statusReport("<Run|MPos:200.500,10.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
     QVERIFY(!p.hasPosition());
-    QCOMPARE(p.resumeLine(), 177);
+    QCOMPARE(p.resumeLine(), 172);
     // A position no line read so far passes through: the buffer's answer.
     p.statusReport("<Run|WPos:250.000,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
-    QCOMPARE(p.resumeLine(), 177);
+    QCOMPARE(p.resumeLine(), 172);
     // An arc in between, or a job whose moves rest on where it started.
     QVERIFY(p.index(write(job("G0X0Y0\n", 185))));
     p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
-    QCOMPARE(p.resumeLine(), 177);
+    QCOMPARE(p.resumeLine(), 172);
     QVERIFY(p.index(write(job("G91X0Y0\n"))));
     p.statusReport("<Run|WPos:190.500,0.000,0.000|Bf:10,0|SD:50.00,/001.nc>");
-    QCOMPARE(p.resumeLine(), 177);
+    QCOMPARE(p.resumeLine(), 172);
 
     // A square burnt over and over: the head on its bottom side is on every
     // pass the board may have read; the earliest of them is the safe one.
@@ -241,8 +245,9 @@ void TestSdJobProgress::resumeLineNeverSkipsWhatDidNotRun()
                                 .arg(round)
                                 .arg(from)
                                 .arg(board.firstQueuedLine())));
-        // No further back than the planner's blocks before what the receive
-        // buffer (and the report's two decimals) may hold.
+        // No further back than the planner's and the step segments' blocks
+        // before what the receive buffer (and the report's two decimals) may
+        // hold.
         QList<int> lengths;
         QFile f(path);
         QVERIFY(f.open(QIODevice::ReadOnly));
@@ -257,7 +262,7 @@ void TestSdJobProgress::resumeLineNeverSkipsWhatDidNotRun()
                 ++blocks;
         }
         // (+1: the line holding the first byte not surely parsed.)
-        QVERIFY2(blocks <= SdJobProgress::kPlannerBlocks + 1,
+        QVERIFY2(blocks <= SdJobProgress::kPlannerBlocks + lumitra::grbl::kSegmentBlocks + 1,
                  qPrintable(QString("round %1: resume %2 blocks back").arg(round).arg(blocks)));
     }
 }
