@@ -31,6 +31,7 @@ struct LineWords
     QList<double> g;
     bool hasX = false, hasY = false;
     double x = 0.0, y = 0.0;
+    double f = -1.0;     // none
     bool system = false; // a "$" line
 };
 
@@ -122,6 +123,9 @@ LineWords readWords(const QString &raw)
             w.hasY = true;
             w.y = value;
             break;
+        case 'F':
+            w.f = value;
+            break;
         default:
             break;
         }
@@ -134,6 +138,13 @@ LineWords readWords(const QString &raw)
 
 int ExecutionTracker::sureBlocks(const QString &line)
 {
+    return sureBlocks(line, nullptr);
+}
+
+int ExecutionTracker::sureBlocks(const QString &line, double *shortestSeconds)
+{
+    if (shortestSeconds)
+        *shortestSeconds = 0.0;
     const LineWords w = readWords(line);
     if (w.system) {
         // Homing or a jog moves the head somewhere this model does not follow.
@@ -155,7 +166,11 @@ int ExecutionTracker::sureBlocks(const QString &line)
             setsPosition = true;
         else if (g == 2 || g == 3)
             m_sawArc = true;
+        if (g == 0 || g == 1 || g == 2 || g == 3)
+            m_rapid = g == 0;
     }
+    if (w.f > 0.0)
+        m_feed = w.f * (m_inches ? 25.4 : 1.0);
     if (setsPosition) {
         m_knownX = m_knownY = false;
         m_anchoredX = m_anchoredY = false;
@@ -193,6 +208,10 @@ int ExecutionTracker::sureBlocks(const QString &line)
     // One whole step on an axis always moves the rounded step position.
     const bool moves =
         (sureX && std::fabs(dx) >= m_stepX - 1e-9) || (sureY && std::fabs(dy) >= m_stepY - 1e-9);
+    // The least it can take: at twice its feed (the most a feed override
+    // gives); a rapid, or a move from an unknown place, may take no time.
+    if (moves && shortestSeconds && !m_rapid && m_feed > 0.0 && sureX == w.hasX && sureY == w.hasY)
+        *shortestSeconds = std::hypot(dx, dy) / (2.0 * m_feed / 60.0);
     return moves ? 1 : 0;
 }
 
@@ -207,6 +226,8 @@ ExecutionTracker::ParserModel ExecutionTracker::parserModel() const
     m.anchoredY = m_anchoredY;
     m.x = m_x;
     m.y = m_y;
+    m.rapid = m_rapid;
+    m.feed = m_feed;
     return m;
 }
 
@@ -220,13 +241,17 @@ void ExecutionTracker::setParserModel(const ParserModel &model)
     m_anchoredY = model.anchoredY;
     m_x = model.x;
     m_y = model.y;
+    m_rapid = model.rapid;
+    m_feed = model.feed;
 }
 
 void ExecutionTracker::lineSent(int number, const QString &line)
 {
     if (m_frozen || number <= 0)
         return;
-    m_inFlight.push_back({number, sureBlocks(line)});
+    Sent sent{number, 0, 0.0};
+    sent.blocks = sureBlocks(line, &sent.shortestSeconds);
+    m_inFlight.push_back(sent);
     m_lastSent = number;
 }
 
@@ -238,7 +263,7 @@ void ExecutionTracker::lineAcknowledged(int number)
         const Sent s = m_inFlight.front();
         m_inFlight.pop_front();
         if (s.number == number) {
-            m_unsettled.push_back({s.number, s.blocks});
+            m_unsettled.push_back({s.number, s.blocks, s.shortestSeconds});
             m_lastAcknowledged = number;
             break;
         }
@@ -255,10 +280,12 @@ void ExecutionTracker::statusReport(const QString &report)
     if (state != QLatin1String("Run") && state != QLatin1String("Hold")
         && state != QLatin1String("Idle"))
         return; // Alarm, Door, Sleep, ...: nothing to learn about the job
-    settle(lumitra::grbl::blocksToRun(report, kPlannerBlocks));
+    const int free = lumitra::grbl::blocksFree(report);
+    settle(free < 0 ? kPlannerBlocks : qBound(0, kPlannerBlocks - free, kPlannerBlocks),
+           state != QLatin1String("Idle"));
 }
 
-void ExecutionTracker::settle(int queuedBlocks)
+void ExecutionTracker::settle(int queuedBlocks, bool running)
 {
     m_queuedBlocks = queuedBlocks;
     // Smallest tail of the answered lines holding `queuedBlocks` sure blocks.
@@ -268,7 +295,28 @@ void ExecutionTracker::settle(int queuedBlocks)
         --first;
         sum += m_unsettled[size_t(first)].blocks;
     }
-    if (queuedBlocks == 0 || m_unsettled.empty()) {
+    if (running) {
+        // Blocks that left the planner for the step segments may not have run:
+        // the one before the queued ones, and more before it only while the
+        // blocks after them fit in the segments' time.
+        double budget = kSegmentSeconds;
+        int extra = 0;
+        int later = -1;
+        for (int k = first - 1; k >= 0 && extra < lumitra::grbl::kSegmentBlocks; --k) {
+            if (m_unsettled[size_t(k)].blocks == 0)
+                continue;
+            if (later >= 0) {
+                const double t = m_unsettled[size_t(later)].shortestSeconds;
+                if (t > budget)
+                    break;
+                budget -= t;
+            }
+            later = k;
+            first = k;
+            ++extra;
+        }
+    }
+    if (first >= int(m_unsettled.size())) {
         m_lastExecuted = qMax(m_lastExecuted, m_lastAcknowledged);
         m_unsettled.clear();
         return;

@@ -8,11 +8,13 @@
 // GRBL answers "ok" once a line is parsed and its motion is in the planner
 // buffer (15 usable blocks in GRBL 1.1); the motion runs later. A status report
 // with the buffer field "Bf:<free blocks>,<free bytes>" says how many blocks
-// are still queued: q = 15 - free, the running block included, and while the
-// machine runs up to kSegmentBlocks more that have left the planner for the
-// step segment buffer. The lines that produced the last q (+ 5) blocks among
-// the acknowledged lines are not done yet; every acknowledged line before the
-// first of them is.
+// are still queued: q = 15 - free, the running block included. While the
+// machine runs, blocks whose last step segments are prepared have left the
+// planner without having run: the one before the queued ones, and up to four
+// more short enough for all of them to fit in the segment buffer (5 segments
+// of at most 10 ms; a block takes at least its length at twice its feed). The
+// lines that produced those blocks are not done yet; every acknowledged line
+// before the first of them is.
 //
 // Lines that produce no block: G90/G91, G20/G21, F, S (laser mode), comments,
 // empty lines, G92, a move to where the head already is, a move shorter than
@@ -83,6 +85,8 @@ public:
         bool knownX = true, knownY = true;
         bool anchoredX = false, anchoredY = false;
         double x = 0.0, y = 0.0;
+        bool rapid = true;
+        double feed = 0.0; // mm/min
         bool anchored() const { return knownX && knownY && anchoredX && anchoredY; }
     };
     ParserModel parserModel() const;
@@ -96,14 +100,16 @@ private:
     {
         int number = 0;
         int blocks = 0;
+        double shortestSeconds = 0.0; // the least its block can take
     };
-    struct Sent
-    {
-        int number = 0;
-        int blocks = 0;
-    };
+    using Sent = Acked;
 
-    void settle(int queuedBlocks);
+    // The step segment buffer holds up to kSegmentBlocks segments of at most
+    // 10 ms each.
+    static constexpr double kSegmentSeconds = 0.05;
+
+    int sureBlocks(const QString &line, double *shortestSeconds);
+    void settle(int queuedBlocks, bool running);
 
     // Parser model.
     bool m_absolute = true;
@@ -111,6 +117,8 @@ private:
     bool m_knownX = true, m_knownY = true;
     bool m_anchoredX = false, m_anchoredY = false;
     double m_x = 0.0, m_y = 0.0;
+    bool m_rapid = true; // G0 (not G1, G2, G3)
+    double m_feed = 0.0; // mm/min, 0 before any F
     double m_stepX = 0.1, m_stepY = 0.1;
     bool m_sawArc = false;
 
@@ -128,7 +136,7 @@ namespace lumitra::grbl {
 int blocksFree(const QString &report);
 // While the machine runs, the controller takes a block out of the planner
 // (and counts it free) once its last step segment is prepared, up to five
-// segments before the motors get there: so many short blocks may still be to
+// segments before the motors get there: as many short blocks may still be to
 // run beyond those "Bf:" counts. An idle machine prepares nothing.
 constexpr int kSegmentBlocks = 5;
 // Blocks a report says may still be to run: the queued planner blocks (all

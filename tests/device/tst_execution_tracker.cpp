@@ -78,9 +78,10 @@ void TestExecutionTracker::settle_data()
     QTest::addColumn<QStringList>("events");
     QTest::addColumn<int>("executed");
     QTest::addColumn<int>("acknowledged");
-    const QStringList moves{"G1X1F600", "X2", "X3", "X4", "X5", "X6", "X7", "X8", "X9", "X10"};
-    // While it runs, 5 blocks may have left the planner for the step segments
-    // without having run.
+    // 0.1 mm at F6000: short enough for five of them to wait in the step
+    // segments of a running machine after leaving the planner.
+    const QStringList moves{"G1X0.1F6000", "X0.2", "X0.3", "X0.4", "X0.5",
+                            "X0.6",        "X0.7", "X0.8", "X0.9", "X1"};
     const QString run = "<Run|MPos:1.000,0.000,0.000|Bf:%1,128|FS:600,0>";
     QTest::newRow("planner empty, segments left")
         << moves << QStringList{"send", "ack 10", run.arg(15)} << 5 << 10;
@@ -89,11 +90,17 @@ void TestExecutionTracker::settle_data()
     QTest::newRow("answers after the report do not count")
         << moves << QStringList{"send", "ack 8", run.arg(14), "ack 10"} << 2 << 10;
     QTest::newRow("modal lines between blocks count once the block before ran")
-        << QStringList{"G1X1F600", "F100", "G1X2", "S5", "G1X3", "X4", "X5", "X6", "X7", "X8"}
+        << QStringList{"G1X0.1F6000", "F6001", "G1X0.2", "S5",   "G1X0.3",
+                       "X0.4",        "X0.5",  "X0.6",   "X0.7", "X0.8"}
         << QStringList{"send", "ack 10", run.arg(14)} << 4 << 10;
     QTest::newRow("a move to where the head is makes no block")
-        << QStringList{"G1X1F600", "G1X1", "G1X2", "X3", "X4", "X5", "X6", "X7"}
+        << QStringList{"G1X0.1F6000", "G1X0.1", "G1X0.2", "X0.3", "X0.4", "X0.5", "X0.6", "X0.7"}
         << QStringList{"send", "ack 8", run.arg(13)} << 0 << 8;
+    // 10 mm at F600 take 0.5 s: only the block before the queued ones can
+    // have left the planner unrun.
+    QTest::newRow("long blocks: one in the segments")
+        << QStringList{"G1X10F600", "X20", "X30", "X40", "X50", "X60", "X70", "X80", "X90", "X100"}
+        << QStringList{"send", "ack 10", run.arg(13)} << 7 << 10;
     QTest::newRow("more blocks queued than answered lines (an arc being planned)")
         << moves << QStringList{"send", "ack 2", run.arg(5)} << 0 << 2;
     QTest::newRow("no buffer field: a full planner is assumed")
