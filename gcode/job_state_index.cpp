@@ -21,7 +21,7 @@ bool JobStateIndex::build(const QString &path, QString *error)
     QString line;
     for (;;) {
         if (m_lines % kStride == 0)
-            m_checkpoints.append({file.pos(), tracker.state()});
+            m_checkpoints.append({file.pos(), m_lines + 1, tracker.state()});
         if (!readJobLine(file, &line))
             break;
         ++m_lines;
@@ -36,18 +36,23 @@ bool JobStateIndex::build(const QString &path, QString *error)
     return true;
 }
 
+JobCheckpoint JobStateIndex::checkpointBefore(int line) const
+{
+    const int before = qBound(0, line - 1, m_lines); // lines before it
+    const int k = qMin(before / kStride, int(m_checkpoints.size()) - 1);
+    return k < 0 ? JobCheckpoint() : m_checkpoints.at(k);
+}
+
 ModalState JobStateIndex::stateBefore(int line) const
 {
-    const int index = qBound(0, line - 1, m_lines); // lines before it
-    const int k = qMin(index / kStride, int(m_checkpoints.size()) - 1);
-    if (k < 0)
-        return ModalState();
+    const JobCheckpoint start = checkpointBefore(line);
     QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(m_checkpoints.at(k).offset))
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(start.offset))
         return ModalState();
-    ModalTracker tracker(m_checkpoints.at(k).state);
+    ModalTracker tracker(start.state);
     QString text;
-    for (int i = k * kStride; i < index && readJobLine(file, &text); ++i)
+    const int before = qBound(0, line - 1, m_lines);
+    for (int i = start.line - 1; i < before && readJobLine(file, &text); ++i)
         tracker.feed(text);
     return tracker.state();
 }

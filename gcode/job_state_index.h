@@ -25,17 +25,16 @@ public:
     // The state before line `line` (1 .. lineCount() + 1); the state at the
     // start when the file cannot be read again.
     ModalState stateBefore(int line) const;
+    // The nearest place at or before line `line` that reading the job may
+    // start from (for writeResumeJob); the job's start before the index is
+    // built.
+    JobCheckpoint checkpointBefore(int line) const;
 
     static constexpr int kStride = 1024;
 
 private:
-    struct Checkpoint
-    {
-        qint64 offset = 0; // of line 1 + i * kStride
-        ModalState state;  // before that line
-    };
     QString m_path;
-    QVector<Checkpoint> m_checkpoints;
+    QVector<JobCheckpoint> m_checkpoints; // lines 1, 1 + kStride, ...
     int m_lines = 0;
     QRectF m_extent;
 };

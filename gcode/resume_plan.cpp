@@ -195,13 +195,17 @@ int ResumeJob::jobLineOf(int resumedLine) const
     return fromLine + resumedLine - preambleLines - 1;
 }
 
-bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info)
+bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info,
+                    const JobCheckpoint &start)
 {
     ResumeJob r;
     r.fromLine = qMax(1, fromLine);
-    ModalTracker tracker;
+    const bool fromCheckpoint = start.line > 1 && start.line <= r.fromLine;
+    if (fromCheckpoint && !job.seek(start.offset))
+        return false;
+    ModalTracker tracker(fromCheckpoint ? start.state : ModalState());
+    int read = fromCheckpoint ? start.line - 1 : 0;
     QString line;
-    int read = 0;
     while (read < r.fromLine - 1 && readJobLine(job, &line)) {
         tracker.feed(line);
         ++read;
@@ -213,29 +217,43 @@ bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *inf
         ok = ok && out.write(l.toLatin1() + '\n') >= 0;
     r.preambleLines = preamble.size();
 
-    // The rest, byte for byte, but for the job's motion mode named on the
+    // Line by line while the job's motion mode still has to be named on the
     // first line that moves (unless that line, or one before it, names its own).
     bool motionPending = state.motion != 0;
     QVector<Word> words;
-    while (ok && !job.atEnd()) {
+    while (ok && motionPending && !job.atEnd()) {
         QByteArray bytes = job.readLine();
         while (bytes.endsWith('\n') || bytes.endsWith('\r'))
             bytes.chop(1);
         ++read;
-        if (motionPending) {
-            const QString code = lumitra::gcodeLineCode(QString::fromLatin1(bytes));
-            if (!code.startsWith(QLatin1Char('$'))) {
-                splitWords(code, &words);
-                const bool namesMotion = std::any_of(words.begin(), words.end(), isMotionWord);
-                const bool moves = std::any_of(words.begin(), words.end(), isAxisWord)
-                                   && std::none_of(words.begin(), words.end(), takesAxisWords);
-                if (!namesMotion && moves)
-                    bytes.prepend(QStringLiteral("G%1 ").arg(state.motion).toLatin1());
-                motionPending = !namesMotion && !moves;
-            }
+        const QString code = lumitra::gcodeLineCode(QString::fromLatin1(bytes));
+        if (!code.startsWith(QLatin1Char('$'))) {
+            splitWords(code, &words);
+            const bool namesMotion = std::any_of(words.begin(), words.end(), isMotionWord);
+            const bool moves = std::any_of(words.begin(), words.end(), isAxisWord)
+                               && std::none_of(words.begin(), words.end(), takesAxisWords);
+            if (!namesMotion && moves)
+                bytes.prepend(QStringLiteral("G%1 ").arg(state.motion).toLatin1());
+            motionPending = !namesMotion && !moves;
         }
         bytes.append('\n');
         ok = out.write(bytes) == bytes.size();
+    }
+    // The rest as it stands, in large pieces; only its lines are counted.
+    char last = '\n';
+    while (ok && !job.atEnd()) {
+        const QByteArray piece = job.read(1 << 20);
+        if (piece.isEmpty()) {
+            ok = false; // not at the end, yet nothing to read
+            break;
+        }
+        read += int(piece.count('\n'));
+        last = piece.back();
+        ok = out.write(piece) == piece.size();
+    }
+    if (ok && last != '\n') {
+        ++read; // a last line without its end
+        ok = out.write("\n", 1) == 1;
     }
     r.jobLines = read;
     r.fromLine = qMin(r.fromLine, read + 1);
@@ -245,7 +263,7 @@ bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *inf
 }
 
 bool writeResumeJobFile(const QString &jobPath, int fromLine, const QString &outPath,
-                        ResumeJob *info, QString *error)
+                        ResumeJob *info, QString *error, const JobCheckpoint &start)
 {
     QFile job(jobPath);
     if (!job.open(QIODevice::ReadOnly)) {
@@ -254,7 +272,7 @@ bool writeResumeJobFile(const QString &jobPath, int fromLine, const QString &out
         return false;
     }
     QSaveFile out(outPath);
-    if (!out.open(QIODevice::WriteOnly) || !writeResumeJob(job, fromLine, out, info)
+    if (!out.open(QIODevice::WriteOnly) || !writeResumeJob(job, fromLine, out, info, start)
         || !out.commit()) {
         if (error)
             *error = QStringLiteral("cannot write %1: %2").arg(outPath, out.errorString());

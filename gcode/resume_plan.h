@@ -82,16 +82,31 @@ struct ResumeJob
     int jobLineOf(int resumedLine) const;
 };
 
-// Streams the job from `job` (its current position on) and writes the resumed
-// job from `fromLine` (1 .. lines + 1) to `out`, holding one line at a time:
-// any size of job takes the same memory. `info` gets the mapping and the
-// job's length; a `fromLine` past the job's end writes the preamble alone
-// (info->fromLine > info->jobLines tells). False when writing fails.
-bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info);
+// A place to start reading a job other than its first line: where line
+// `line` starts in the file and the parser state before it (JobStateIndex
+// keeps one every few lines).
+struct JobCheckpoint
+{
+    qint64 offset = 0;
+    int line = 1;
+    ModalState state;
+};
+
+// Streams the job from `job` and writes the resumed job from `fromLine`
+// (1 .. lines + 1) to `out`, holding one line at a time: any size of job
+// takes the same memory. Reading starts at `start` (the job's start unless
+// given; one after fromLine is not used). The lines after the preamble go out
+// as they stand, but for the job's motion mode named on the first that moves;
+// a last line without its end gets one. `info` gets the mapping and the job's
+// length; a `fromLine` past the job's end writes the preamble alone
+// (info->fromLine > info->jobLines tells). False when reading or writing fails.
+bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *info,
+                    const JobCheckpoint &start = JobCheckpoint());
 // The same from file to file; false with the reason ("cannot read …" or
 // "cannot write …") when a file fails.
 bool writeResumeJobFile(const QString &jobPath, int fromLine, const QString &outPath,
-                        ResumeJob *info, QString *error);
+                        ResumeJob *info, QString *error,
+                        const JobCheckpoint &start = JobCheckpoint());
 // The resumed job of a job held in memory, lines included (fromLine is
 // brought within 1 .. lines + 1).
 ResumeJob buildResumeJob(const QStringList &job, int fromLine);

@@ -164,6 +164,7 @@ void ResumeOffer::showOffer(const PreparedOffer &prepared, int next, bool positi
 {
     if (m_dialog)
         delete m_dialog;
+    m_offeredIndex = prepared.job;
     m_dialog = new ResumeDialog(prepared.job, next, positionLost, m_dialogParent, prepared.preview);
     if (!warning.isEmpty())
         m_dialog->setWarning(warning);
@@ -202,8 +203,12 @@ bool ResumeOffer::resumeFrom(int line)
         m_dir.filePath(QStringLiteral("resume-%1").arg(QFileInfo(m_original).fileName()));
     lumitra::gcode::ResumeJob r;
     QString error;
+    // The offer's index of this very file lets the writing start near the line.
+    const lumitra::gcode::JobCheckpoint start = m_offeredIndex.path() == m_original
+                                                    ? m_offeredIndex.checkpointBefore(line)
+                                                    : lumitra::gcode::JobCheckpoint();
     if (line < 1 || !m_dir.isValid()
-        || !lumitra::gcode::writeResumeJobFile(m_original, line, path, &r, &error)
+        || !lumitra::gcode::writeResumeJobFile(m_original, line, path, &r, &error, start)
         || r.fromLine > r.jobLines) {
         qDebug() << "resume failed:" << error;
         lumitra::show_notice(m_dialogParent, tr("无法继续作业。"));

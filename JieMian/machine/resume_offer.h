@@ -89,12 +89,13 @@ private:
     QPointer<SdJobWatch> m_wifiJob; // the running job's, while one runs on the card
     QPointer<ResumeDialog> m_dialog;
     bool m_jobActive = false;
-    bool m_positionLost = false; // of the interruption on offer
-    QString m_warning;           // its own warning, when not the reset's
-    QString m_running;           // file the link runs
-    QString m_original;          // the job it stands for
-    QString m_offeredJob;        // jobStamp of m_original when offered
-    quint64 m_offerRun = 0;      // the offer being prepared; others are stale
+    bool m_positionLost = false;                  // of the interruption on offer
+    QString m_warning;                            // its own warning, when not the reset's
+    QString m_running;                            // file the link runs
+    QString m_original;                           // the job it stands for
+    QString m_offeredJob;                         // jobStamp of m_original when offered
+    quint64 m_offerRun = 0;                       // the offer being prepared; others are stale
+    lumitra::gcode::JobStateIndex m_offeredIndex; // of m_original, when offered
     int m_preambleLines = 0;
     int m_firstJobLine = 1;
     QTemporaryDir m_dir; // resumed jobs

@@ -56,8 +56,9 @@ int main(int argc, char **argv)
     lumitra::gcode::ResumeJob resumed;
     QString error;
     clock.restart();
+    // From the index's nearest checkpoint, as the window does.
     if (!lumitra::gcode::writeResumeJobFile(path, line, dir.filePath("resumed.nc"), &resumed,
-                                            &error)) {
+                                            &error, index.checkpointBefore(line))) {
         out << error << "\n";
         return 1;
     }

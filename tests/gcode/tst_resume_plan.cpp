@@ -263,9 +263,9 @@ void TestResumePlan::lineMapping()
     QCOMPARE(r.lines.size() - r.preambleLines, kRasterJob.size() - 11);
 }
 
-// A file resumes byte for byte whatever its line ends (CRLF, none after the
-// last line) and whatever its comments hold; a line past the end writes the
-// preamble alone and says so.
+// A file resumes byte for byte whatever its line ends (CRLF kept, one added
+// after a last line without) and whatever its comments hold; a line past the
+// end writes the preamble alone and says so.
 void TestResumePlan::resumesAFileAsItStands()
 {
     QTemporaryDir dir;
@@ -281,8 +281,8 @@ void TestResumePlan::resumesAFileAsItStands()
     QCOMPARE(r.fromLine, 3);
     QFile resumed(out);
     QVERIFY(resumed.open(QIODevice::ReadOnly));
-    const QByteArray expected = "M5 S0\nG90 G21\nG0 X0 Y0\nM4 S0\n; 图层 1\nG0 X5 Y5\n"
-                                "G1 X10 S300 F900\nX20 (end)\n";
+    const QByteArray expected = "M5 S0\nG90 G21\nG0 X0 Y0\nM4 S0\n; 图层 1\r\nG0 X5 Y5\r\n"
+                                "G1 X10 S300 F900\r\nX20 (end)\n";
     QCOMPARE(resumed.readAll(), expected);
     QCOMPARE(r.preambleLines, 4);
 
@@ -345,6 +345,21 @@ void TestResumePlan::indexKnowsEveryLine()
         }
     }
     QCOMPARE(index.extent(), QRectF(left, bottom, right - left, top - bottom));
+
+    // Written from the index's nearest checkpoint, a resumed job is the same
+    // as one read from the start.
+    for (int line : {2, 1500, 2 * lumitra::gcode::JobStateIndex::kStride + 1, int(job.size())}) {
+        const QString fromStart = dir.filePath("a.nc"), fromIndex = dir.filePath("b.nc");
+        lumitra::gcode::ResumeJob a, b;
+        QVERIFY(lumitra::gcode::writeResumeJobFile(path, line, fromStart, &a, nullptr));
+        QVERIFY(lumitra::gcode::writeResumeJobFile(path, line, fromIndex, &b, nullptr,
+                                                   index.checkpointBefore(line)));
+        QCOMPARE(b.jobLines, a.jobLines);
+        QCOMPARE(b.preambleLines, a.preambleLines);
+        QFile fa(fromStart), fb(fromIndex);
+        QVERIFY(fa.open(QIODevice::ReadOnly) && fb.open(QIODevice::ReadOnly));
+        QCOMPARE(fb.readAll(), fa.readAll());
+    }
     QVERIFY(!index.build(dir.filePath("missing.nc")));
 }
 
