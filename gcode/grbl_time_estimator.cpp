@@ -1,11 +1,12 @@
 #include "grbl_time_estimator.h"
 
+#include "gcode_words.h"
+
 #include "job_simulator.h"
 
 #include <QIODevice>
 #include <QVector>
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 namespace {
@@ -22,53 +23,6 @@ double limitByAxes(const double limits[3], const double unit[3])
         if (unit[i] != 0.0)
             value = std::min(value, std::fabs(limits[i] / unit[i]));
     return value;
-}
-
-struct Word
-{
-    char letter;
-    double value;
-};
-
-// Splits a line into its words; comments in parentheses or after ';' are
-// dropped. False when a word has no readable number.
-bool splitWords(const QString &raw, QVector<Word> *words)
-{
-    QByteArray text;
-    text.reserve(raw.size());
-    bool inComment = false;
-    for (const QChar c : raw) {
-        const char ch = c.toLatin1();
-        if (inComment) {
-            inComment = ch != ')';
-            continue;
-        }
-        if (ch == '(') {
-            inComment = true;
-            continue;
-        }
-        if (ch == ';')
-            break;
-        if (ch != ' ' && ch != '\t' && ch != '\r')
-            text.append(char(std::toupper(static_cast<unsigned char>(ch))));
-    }
-    for (int i = 0; i < text.size();) {
-        const char letter = text.at(i);
-        if (letter < 'A' || letter > 'Z')
-            return false;
-        int j = i + 1;
-        while (j < text.size()
-               && (std::isdigit(static_cast<unsigned char>(text.at(j))) || text.at(j) == '.'
-                   || text.at(j) == '-' || text.at(j) == '+'))
-            ++j;
-        bool ok = false;
-        const double value = text.mid(i + 1, j - i - 1).toDouble(&ok);
-        if (!ok)
-            return false;
-        words->append({letter, value});
-        i = j;
-    }
-    return true;
 }
 
 } // namespace
@@ -287,8 +241,8 @@ void GrblTimeEstimator::parseLine(const QString &line)
 {
     if (line.trimmed().startsWith(QLatin1Char('$')))
         return; // system commands do not move in a job
-    QVector<Word> words;
-    if (!splitWords(line, &words) || words.isEmpty())
+    QVector<GcodeWord> words;
+    if (!splitGcodeWords(line, &words) || words.isEmpty())
         return; // the controller refuses the line
 
     int motion = m_motion;
@@ -301,7 +255,7 @@ void GrblTimeEstimator::parseLine(const QString &line)
     double axis[3] = {0, 0, 0}, offset[3] = {0, 0, 0};
     double feed = -1.0, power = m_power, pause = 0.0, radius = 0.0;
     bool hasRadius = false;
-    for (const Word &w : words) {
+    for (const GcodeWord &w : words) {
         const int code = int(std::lround(w.value * 10.0));
         switch (w.letter) {
         case 'G':

@@ -1,6 +1,6 @@
 #include "resume_plan.h"
 
-#include "gcode_line_code.h"
+#include "gcode_words.h"
 #include "job_simulator.h"
 
 #include <QBuffer>
@@ -31,50 +31,31 @@ QString number(double v)
     return text;
 }
 
-struct Word
+// "$H", "$J=...", "$$": system commands, not G-code.
+bool isSystemLine(const QString &line)
 {
-    char letter;
-    double value;
-};
-
-// The words of a line's code (capitals, comments gone), in order. A letter
-// without a readable number is skipped, as the controller would refuse it.
-void splitWords(const QString &code, QVector<Word> *words)
-{
-    words->clear();
-    const int n = code.size();
-    for (int i = 0; i < n;) {
-        const char letter = code.at(i).toLatin1();
-        ++i;
-        if (letter < 'A' || letter > 'Z')
-            continue;
-        while (i < n && code.at(i) == QLatin1Char(' '))
-            ++i;
-        const int start = i;
-        while (i < n
-               && (code.at(i).isDigit() || code.at(i) == QLatin1Char('.')
-                   || code.at(i) == QLatin1Char('-') || code.at(i) == QLatin1Char('+')))
-            ++i;
-        bool ok = false;
-        const double value = code.midRef(start, i - start).toDouble(&ok);
-        if (ok)
-            words->append({letter, value});
+    for (const QChar c : line) {
+        if (c == QLatin1Char('$'))
+            return true;
+        if (!c.isSpace())
+            return false;
     }
+    return false;
 }
 
-bool isMotionWord(const Word &w)
+bool isMotionWord(const GcodeWord &w)
 {
     return w.letter == 'G' && (w.value == 0 || w.value == 1 || w.value == 2 || w.value == 3);
 }
 
-bool isAxisWord(const Word &w)
+bool isAxisWord(const GcodeWord &w)
 {
     return w.letter == 'X' || w.letter == 'Y' || w.letter == 'Z';
 }
 
 // G10, G28, G30 and G92 take the axis words for themselves: no motion mode
 // may stand beside them.
-bool takesAxisWords(const Word &w)
+bool takesAxisWords(const GcodeWord &w)
 {
     return w.letter == 'G' && (w.value == 10 || w.value == 28 || w.value == 30 || w.value == 92);
 }
@@ -91,16 +72,15 @@ bool ModalState::operator==(const ModalState &o) const
 
 void ModalTracker::feed(const QString &raw)
 {
-    const QString line = lumitra::gcodeLineCode(raw);
-    if (line.isEmpty() || line.startsWith(QLatin1Char('$')))
-        return; // system commands ("$H", "$J=") leave the parser state alone
-
-    thread_local QVector<Word> words;
-    splitWords(line, &words);
+    // System commands leave the parser state alone, and so does a line the
+    // controller refuses.
+    thread_local QVector<GcodeWord> words;
+    if (isSystemLine(raw) || !splitGcodeWords(raw, &words))
+        return;
     bool has[3] = {false, false, false}, setsOrigin = false;
     double axis[3] = {0.0, 0.0, 0.0};
     ModalState &s = m_state;
-    for (const Word &w : qAsConst(words)) {
+    for (const GcodeWord &w : qAsConst(words)) {
         const double v = w.value;
         switch (w.letter) {
         case 'G':
@@ -213,22 +193,23 @@ bool writeResumeJob(QIODevice &job, int fromLine, QIODevice &out, ResumeJob *inf
     const ModalState state = tracker.state();
     bool ok = true;
     const QStringList preamble = resumePreamble(state);
-    for (const QString &l : preamble)
-        ok = ok && out.write(l.toLatin1() + '\n') >= 0;
+    for (const QString &l : preamble) {
+        const QByteArray bytes = l.toLatin1() + '\n';
+        ok = ok && out.write(bytes) == bytes.size();
+    }
     r.preambleLines = preamble.size();
 
     // Line by line while the job's motion mode still has to be named on the
     // first line that moves (unless that line, or one before it, names its own).
     bool motionPending = state.motion != 0;
-    QVector<Word> words;
+    QVector<GcodeWord> words;
     while (ok && motionPending && !job.atEnd()) {
         QByteArray bytes = job.readLine();
         while (bytes.endsWith('\n') || bytes.endsWith('\r'))
             bytes.chop(1);
         ++read;
-        const QString code = lumitra::gcodeLineCode(QString::fromLatin1(bytes));
-        if (!code.startsWith(QLatin1Char('$'))) {
-            splitWords(code, &words);
+        const QString text = QString::fromLatin1(bytes);
+        if (!isSystemLine(text) && splitGcodeWords(text, &words)) {
             const bool namesMotion = std::any_of(words.begin(), words.end(), isMotionWord);
             const bool moves = std::any_of(words.begin(), words.end(), isAxisWord)
                                && std::none_of(words.begin(), words.end(), takesAxisWords);
